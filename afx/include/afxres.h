@@ -1,0 +1,12 @@
+// Standard command, control and string ids, as resource scripts and code share them.
+#pragma once
+
+#define IDC_STATIC (-1)
+
+// The Help command: a page, dialog or frame receives it for F1 and for every Help button.
+#define ID_HELP 0xE146
+
+// Standard prompts of the data exchange. An application may bring its own wording of them.
+#define AFX_IDP_PARSE_INT 0xF110
+#define AFX_IDP_PARSE_REAL 0xF111
+#define AFX_IDP_PARSE_REAL_RANGE 0xF113

@@ -1,0 +1,404 @@
+// Windows, dialogs, controls, data exchange, message maps and the application object.
+//
+// All of it is for one thread of a process, the user-interface thread: handle maps, the current message and the
+// window that is exchanging data are state of the process.
+#pragma once
+
+#include <afx.h>
+#include <afxres.h>
+#include <commctrl.h>
+
+class CCmdTarget;
+class CDataExchange;
+class CWnd;
+
+struct CSize : SIZE {
+    CSize(int width = 0, int height = 0) : SIZE{width, height} {}
+};
+
+struct CPoint : POINT {
+    CPoint(int px = 0, int py = 0) : POINT{px, py} {}
+    CPoint(POINT point) : POINT(point) {}
+};
+
+struct CRect : RECT {
+    CRect(int l = 0, int t = 0, int r = 0, int b = 0) : RECT{l, t, r, b} {}
+    CRect(const RECT& rect) : RECT(rect) {}
+    int Width() const { return right - left; }
+    int Height() const { return bottom - top; }
+    CPoint CenterPoint() const { return {(left + right) / 2, (top + bottom) / 2}; }
+    BOOL PtInRect(POINT point) const { return ::PtInRect(this, point); }
+    operator RECT*() { return this; }
+};
+
+// ---- message maps ------------------------------------------------------------------------------------------
+
+using AFX_HANDLER = LRESULT (*)(CCmdTarget& target, WPARAM wParam, LPARAM lParam);
+
+/// One row of a message map: a message, or a notification code of the commands firstId to lastId.
+struct AFX_MSGMAP_ENTRY {
+    UINT nMessage;
+    UINT nCode;
+    UINT nID;
+    UINT nLastID;
+    AFX_HANDLER pfn; ///< null ends the map
+};
+
+struct AFX_MSGMAP {
+    const AFX_MSGMAP* (*pfnGetBaseMap)(); ///< null at the root
+    const AFX_MSGMAP_ENTRY* lpEntries;
+};
+
+constexpr UINT CN_COMMAND = 0; ///< code of menu commands, accelerators and button clicks
+
+#define DECLARE_MESSAGE_MAP()                                                                                          \
+protected:                                                                                                             \
+    static const AFX_MSGMAP* GetThisMessageMap();                                                                      \
+    const AFX_MSGMAP* GetMessageMap() const override;
+
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                                         \
+    const AFX_MSGMAP* theClass::GetMessageMap() const                                                                  \
+    {                                                                                                                  \
+        return GetThisMessageMap();                                                                                    \
+    }                                                                                                                  \
+    const AFX_MSGMAP* theClass::GetThisMessageMap()                                                                    \
+    {                                                                                                                  \
+        using ThisClass [[maybe_unused]] = theClass;                                                                   \
+        using TheBaseClass = baseClass;                                                                                \
+        static const AFX_MSGMAP_ENTRY entries[] = {
+
+#define END_MESSAGE_MAP()                                                                                              \
+    {                                                                                                                  \
+        0, 0, 0, 0, nullptr                                                                                            \
+    }                                                                                                                  \
+    }                                                                                                                  \
+    ;                                                                                                                  \
+    static const AFX_MSGMAP map{&TheBaseClass::GetThisMessageMap, entries};                                            \
+    return &map;                                                                                                       \
+    }
+
+template <class Function> struct AfxMember;
+template <class Class, class Result, class... Arguments> struct AfxMember<Result (Class::*)(Arguments...)> {
+    using Type = Class;
+};
+
+/// Turns a handler of a known signature into the one shape that message maps hold.
+template <auto handler> struct AfxThunk {
+    using Class = typename AfxMember<decltype(handler)>::Type;
+
+    static LRESULT Command(CCmdTarget& target, WPARAM, LPARAM)
+    {
+        (static_cast<Class&>(target).*handler)();
+        return 0;
+    }
+    static LRESULT Message(CCmdTarget& target, WPARAM wParam, LPARAM lParam)
+    {
+        return (static_cast<Class&>(target).*handler)(wParam, lParam);
+    }
+    static LRESULT Key(CCmdTarget& target, WPARAM wParam, LPARAM lParam)
+    {
+        (static_cast<Class&>(target).*handler)(static_cast<UINT>(wParam), LOWORD(lParam), HIWORD(lParam));
+        return 0;
+    }
+    static LRESULT NcCreate(CCmdTarget& target, WPARAM, LPARAM lParam)
+    {
+        return (static_cast<Class&>(target).*handler)(reinterpret_cast<CREATESTRUCTW*>(lParam));
+    }
+    static LRESULT HelpInfo(CCmdTarget& target, WPARAM, LPARAM lParam)
+    {
+        return (static_cast<Class&>(target).*handler)(reinterpret_cast<HELPINFO*>(lParam));
+    }
+    static LRESULT Size(CCmdTarget& target, WPARAM wParam, LPARAM lParam)
+    {
+        (static_cast<Class&>(target).*handler)(static_cast<UINT>(wParam), LOWORD(lParam), HIWORD(lParam));
+        return 0;
+    }
+};
+
+#define ON_CONTROL(code, id, memberFxn) {WM_COMMAND, code, id, id, &AfxThunk<memberFxn>::Command},
+#define ON_COMMAND(id, memberFxn) ON_CONTROL(CN_COMMAND, id, memberFxn)
+#define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
+#define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
+#define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
+#define ON_EN_KILLFOCUS(id, memberFxn) ON_CONTROL(EN_KILLFOCUS, id, memberFxn)
+#define ON_LBN_DBLCLK(id, memberFxn) ON_CONTROL(LBN_DBLCLK, id, memberFxn)
+#define ON_MESSAGE(message, memberFxn) {message, 0, 0, 0, &AfxThunk<memberFxn>::Message},
+#define ON_WM_CHAR() {WM_CHAR, 0, 0, 0, &AfxThunk<&ThisClass::OnChar>::Key},
+#define ON_WM_CLOSE() {WM_CLOSE, 0, 0, 0, &AfxThunk<&ThisClass::OnClose>::Command},
+#define ON_WM_DESTROY() {WM_DESTROY, 0, 0, 0, &AfxThunk<&ThisClass::OnDestroy>::Command},
+#define ON_WM_SIZE() {WM_SIZE, 0, 0, 0, &AfxThunk<&ThisClass::OnSize>::Size},
+#define ON_WM_NCCREATE() {WM_NCCREATE, 0, 0, 0, &AfxThunk<&ThisClass::OnNcCreate>::NcCreate},
+#define ON_WM_HELPINFO() {WM_HELP, 0, 0, 0, &AfxThunk<&ThisClass::OnHelpInfo>::HelpInfo},
+
+/// Base of whatever receives commands.
+class AFX_CLASS CCmdTarget : public CObject {
+    DECLARE_DYNAMIC(CCmdTarget)
+public:
+    /// Runs the handler of a command or control notification: the maps from the most derived class upward, each
+    /// in declared order, the first match. FALSE where none matches.
+    virtual BOOL OnCmdMsg(UINT id, int code, void* extra, void* handlerInfo);
+
+protected:
+    static const AFX_MSGMAP* GetThisMessageMap();
+    virtual const AFX_MSGMAP* GetMessageMap() const;
+    const AFX_MSGMAP_ENTRY* FindEntry(UINT message, UINT code, UINT id) const;
+};
+
+// ---- windows -----------------------------------------------------------------------------------------------
+
+/// A window. The C++ object and the window have lives of their own: an object can exist before its window does and
+/// after it is gone (m_hWnd is then null).
+class AFX_CLASS CWnd : public CCmdTarget {
+    DECLARE_DYNAMIC(CWnd)
+public:
+    CWnd() = default;
+    /// Destroys the window, if there still is one.
+    ~CWnd() override;
+
+    HWND m_hWnd = nullptr;
+    operator HWND() const { return m_hWnd; }
+
+    /// The object that stands for a window: its own where it has one, else a temporary one that lives until the
+    /// outermost message being processed is done. Null for null.
+    static CWnd* FromHandle(HWND window);
+    static CWnd* FromHandlePermanent(HWND window); ///< null where the window has no object of its own
+    BOOL Attach(HWND window);
+    HWND Detach();
+    BOOL SubclassWindow(HWND window);
+    BOOL SubclassDlgItem(UINT id, CWnd* parent);
+
+    BOOL CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect, CWnd* parent,
+                  HMENU menuOrId, void* parameter = nullptr);
+    virtual BOOL DestroyWindow();
+
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    LRESULT SendDlgItemMessage(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+
+    CWnd* GetDlgItem(int id) const; ///< null where the window holds no such control
+    int GetDlgCtrlID() const;
+    CWnd* GetParent() const;
+    CWnd* GetWindow(UINT relation) const;
+    BOOL CheckDlgButton(int id, UINT check) const;
+    UINT IsDlgButtonChecked(int id) const;
+    void SetDlgItemText(int id, LPCTSTR text) const;
+
+    void SetWindowText(LPCTSTR text);
+    void GetWindowText(CString& text) const;
+    int GetWindowTextLength() const;
+
+    BOOL EnableWindow(BOOL enable = TRUE);
+    BOOL IsWindowEnabled() const;
+    BOOL ShowWindow(int command);
+    BOOL IsWindowVisible() const;
+    CWnd* SetFocus();
+    void UpdateWindow();
+    void Invalidate(BOOL erase = TRUE);
+    BOOL ModifyStyleEx(DWORD remove, DWORD add);
+    HFONT GetFont() const;
+    void SetFont(HFONT font, BOOL redraw = TRUE);
+    void GetClientRect(RECT* rect) const;
+    void GetWindowRect(RECT* rect) const;
+    void MoveWindow(int x, int y, int width, int height, BOOL repaint = TRUE);
+    void ScreenToClient(POINT* point) const;
+    void ClientToScreen(POINT* point) const;
+    int MessageBox(LPCTSTR text, LPCTSTR caption = nullptr, UINT type = MB_OK);
+
+    /// The id of the child at a point of the client area, -1 where there is none.
+    virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFOW* info) const;
+
+    /// Moves data from the controls to the object (TRUE) or back (FALSE) with DoDataExchange. FALSE when a control
+    /// refused; the user has then been told and the focus is back in it. Control notifications to this window are
+    /// ignored meanwhile.
+    BOOL UpdateData(BOOL saveAndValidate = TRUE);
+
+    virtual BOOL PreTranslateMessage(MSG* message);
+
+protected:
+    virtual void DoDataExchange(CDataExchange* exchange);
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
+    virtual void PostNcDestroy();
+
+    /// The message being processed, with its time and the pointer's position. Only for use in a handler.
+    static const MSG* GetCurrentMessage();
+    LRESULT Default(); ///< default processing of the current message
+    void OnChar(UINT character, UINT repeatCount, UINT flags);
+    BOOL OnNcCreate(CREATESTRUCTW* create);
+    BOOL OnHelpInfo(HELPINFO* info);
+    void OnClose();
+    void OnDestroy();
+    void OnSize(UINT type, int width, int height);
+
+private:
+    friend AFX_CLASS LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    friend AFX_CLASS LRESULT CALLBACK AfxCbtProc(int code, WPARAM wParam, LPARAM lParam);
+    WNDPROC m_super = nullptr; ///< the window procedure that was there before this object's
+};
+
+AFX_CLASS LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+/// Attaches `window` to the next window that this thread creates, before that window's first message.
+AFX_CLASS void AfxHookWindowCreate(CWnd* window);
+/// Ends AfxHookWindowCreate. TRUE when a window has been attached.
+AFX_CLASS BOOL AfxUnhookWindowCreate();
+/// A window class of the application with the given parts; its name stays valid until the next call.
+AFX_CLASS LPCTSTR AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
+                                      HICON icon = nullptr);
+
+class AFX_CLASS CStatic : public CWnd {
+    DECLARE_DYNAMIC(CStatic)
+};
+
+class AFX_CLASS CButton : public CWnd {
+    DECLARE_DYNAMIC(CButton)
+public:
+    int GetCheck() const;
+    void SetCheck(int check);
+    HICON SetIcon(HICON icon);
+    HICON GetIcon() const;
+};
+
+class AFX_CLASS CEdit : public CWnd {
+    DECLARE_DYNAMIC(CEdit)
+public:
+    void LimitText(int characters = 0);
+    void SetSel(int start, int end, BOOL noScroll = FALSE);
+};
+
+class AFX_CLASS CComboBox : public CWnd {
+    DECLARE_DYNAMIC(CComboBox)
+public:
+    int GetCount() const;
+    int GetCurSel() const; ///< -1 when nothing is selected
+    int SetCurSel(int index);
+    int AddString(LPCTSTR text);
+    void ResetContent();
+    int GetLBText(int index, CString& text) const;
+    DWORD_PTR GetItemData(int index) const;
+    int SetItemData(int index, DWORD_PTR data);
+    int FindStringExact(int start, LPCTSTR text) const;
+    int Dir(UINT attributes, LPCTSTR pattern);
+};
+
+class AFX_CLASS CListBox : public CWnd {
+    DECLARE_DYNAMIC(CListBox)
+public:
+    int GetCount() const;
+    int GetCurSel() const;
+    int SetCurSel(int index);
+    int AddString(LPCTSTR text);
+    DWORD_PTR GetItemData(int index) const;
+    int SetItemData(int index, DWORD_PTR data);
+};
+
+// ---- dialogs -----------------------------------------------------------------------------------------------
+
+/// A dialog from a template, found through the resource chain.
+class AFX_CLASS CDialog : public CWnd {
+    DECLARE_DYNAMIC(CDialog)
+public:
+    CDialog() = default;
+    explicit CDialog(UINT templateId, CWnd* parent = nullptr);
+
+    /// Shows the dialog until EndDialog; its result, or -1 where it could not be created.
+    virtual INT_PTR DoModal();
+    virtual BOOL Create(UINT templateId, CWnd* parent = nullptr); ///< shows it modelessly
+    void EndDialog(int result);
+
+    /// Loads the data into the controls. TRUE leaves the first focus to the system.
+    virtual BOOL OnInitDialog();
+    BOOL PreTranslateMessage(MSG* message) override;
+    BOOL OnCmdMsg(UINT id, int code, void* extra, void* handlerInfo) override;
+
+protected:
+    virtual void OnOK();
+    virtual void OnCancel();
+    LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+    UINT m_templateId = 0;
+    CWnd* m_parent = nullptr;
+};
+
+/// A main window. It deletes itself when its window is destroyed.
+class AFX_CLASS CFrameWnd : public CWnd {
+    DECLARE_DYNAMIC(CFrameWnd)
+public:
+    BOOL Create(LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect, UINT menuId = 0);
+
+protected:
+    void PostNcDestroy() override;
+    void OnDestroy();
+    DECLARE_MESSAGE_MAP()
+};
+
+// ---- data exchange -----------------------------------------------------------------------------------------
+
+/// One pass of a dialog's data exchange.
+class AFX_CLASS CDataExchange {
+public:
+    CDataExchange(CWnd* dialog, BOOL saveAndValidate);
+
+    BOOL m_bSaveAndValidate; ///< TRUE: from the controls to the object
+    CWnd* m_pDlgWnd;
+    HWND m_hWndLastControl = nullptr;
+    BOOL m_bEditLastControl = FALSE;
+
+    /// Names the control being exchanged. Throws CNotSupportedException where the dialog does not hold it.
+    HWND PrepareCtrl(int id);
+    HWND PrepareEditCtrl(int id);
+    /// Ends the pass as failed: focus to the control last prepared, an edit's text selected; throws CUserException.
+    [[noreturn]] void Fail();
+};
+
+AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, int& value);
+AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, CString& value);
+AFX_CLASS void DDX_Check(CDataExchange* exchange, int id, int& value);
+/// `id`: the first button of the group. -1 stands for no button on.
+AFX_CLASS void DDX_Radio(CDataExchange* exchange, int id, int& value);
+AFX_CLASS void DDX_CBIndex(CDataExchange* exchange, int id, int& index);
+AFX_CLASS void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
+
+// ---- the application ---------------------------------------------------------------------------------------
+
+/// The application: one static object of the executable.
+class AFX_CLASS CWinApp : public CCmdTarget {
+    DECLARE_DYNAMIC(CWinApp)
+public:
+    explicit CWinApp(LPCTSTR name = nullptr);
+    ~CWinApp() override;
+
+    LPCTSTR m_pszAppName; ///< caption of the application's message boxes
+    HINSTANCE m_hInstance;
+    CWnd* m_pMainWnd = nullptr;
+    BOOL m_bHelpMode = FALSE; ///< context-help mode: the next Help asks for the control under the pointer
+
+    virtual BOOL InitInstance(); ///< FALSE ends the program at once
+    virtual int Run();           ///< the message loop
+    virtual int ExitInstance();
+    /// Shows the application's message boxes; `promptId` is the help context.
+    virtual int DoMessageBox(LPCTSTR prompt, UINT type, UINT promptId);
+};
+
+AFX_CLASS CWinApp* AfxGetApp(); ///< null in a process without an application object
+AFX_CLASS CWnd* AfxGetMainWnd();
+/// Runs the application object: InitInstance, Run, ExitInstance.
+AFX_CLASS int AfxWinMain();
+
+/// Message boxes. Without an icon in `type` they bear the exclamation mark, or the question mark for Yes/No.
+AFX_CLASS int AfxMessageBox(LPCTSTR text, UINT type = MB_OK, UINT helpId = 0);
+AFX_CLASS int AfxMessageBox(UINT promptId, UINT type = MB_OK, UINT helpId = static_cast<UINT>(-1));
+/// Replaces %1 and %2 of a string resource.
+AFX_CLASS void AfxFormatString2(CString& result, UINT id, LPCTSTR first, LPCTSTR second);
+
+// ---- resources ---------------------------------------------------------------------------------------------
+
+/// The module whose resources come first; the application's unless set otherwise.
+AFX_CLASS HINSTANCE AfxGetResourceHandle();
+AFX_CLASS void AfxSetResourceHandle(HINSTANCE module);
+AFX_CLASS HINSTANCE AfxGetInstanceHandle();
+/// The first module of the chain that holds the resource: the current one, the application, the extension DLLs
+/// (the last started first), the framework itself. Where none holds it, the current module.
+AFX_CLASS HINSTANCE AfxFindResourceHandle(LPCTSTR name, LPCTSTR type);

@@ -1,0 +1,145 @@
+// Dialogs and frames.
+#include <afxwin.h>
+
+#include "state.h"
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+IMPLEMENT_DYNAMIC(CFrameWnd, CWnd)
+
+namespace {
+/// All of a dialog's messages are handled by its object, which stands before this procedure.
+INT_PTR CALLBACK DialogProc(HWND, UINT, WPARAM, LPARAM)
+{
+    return FALSE;
+}
+
+/// A dialog template in memory, valid as long as its module is loaded; null where the chain holds none.
+const DLGTEMPLATE* FindTemplate(UINT id)
+{
+    const LPCTSTR name = MAKEINTRESOURCE(id);
+    const HINSTANCE module = AfxFindResourceHandle(name, RT_DIALOG);
+    const HRSRC resource = FindResource(module, name, RT_DIALOG);
+    const HGLOBAL loaded = resource ? LoadResource(module, resource) : nullptr;
+    return loaded ? static_cast<const DLGTEMPLATE*>(LockResource(loaded)) : nullptr;
+}
+
+/// The top-level window that a modal dialog of `parent` disables and returns to.
+HWND SafeOwner(const CWnd* parent)
+{
+    if (parent && parent->m_hWnd)
+        return GetAncestor(parent->m_hWnd, GA_ROOT);
+    const HWND active = GetActiveWindow();
+    if (active)
+        return active;
+    const CWnd* const main = AfxGetMainWnd();
+    return main && main->m_hWnd ? GetLastActivePopup(main->m_hWnd) : nullptr;
+}
+} // namespace
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+END_MESSAGE_MAP()
+
+CDialog::CDialog(UINT templateId, CWnd* parent) : m_templateId(templateId), m_parent(parent) {}
+
+INT_PTR CDialog::DoModal()
+{
+    const DLGTEMPLATE* const dialogTemplate = FindTemplate(m_templateId);
+    if (!dialogTemplate)
+        return -1;
+    AfxHookWindowCreate(this);
+    const INT_PTR result =
+        DialogBoxIndirectParam(AfxGetInstanceHandle(), dialogTemplate, SafeOwner(m_parent), DialogProc, 0);
+    AfxUnhookWindowCreate();
+    return result;
+}
+
+BOOL CDialog::Create(UINT templateId, CWnd* parent)
+{
+    const DLGTEMPLATE* const dialogTemplate = FindTemplate(templateId);
+    if (!dialogTemplate)
+        return FALSE;
+    m_templateId = templateId;
+    AfxHookWindowCreate(this);
+    const HWND window = CreateDialogIndirectParam(AfxGetInstanceHandle(), dialogTemplate,
+                                                  parent ? parent->m_hWnd : nullptr, DialogProc, 0);
+    AfxUnhookWindowCreate();
+    return window != nullptr;
+}
+
+void CDialog::EndDialog(int result)
+{
+    ::EndDialog(m_hWnd, result);
+}
+
+LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
+{
+    Default();
+    return OnInitDialog();
+}
+
+BOOL CDialog::OnInitDialog()
+{
+    UpdateData(FALSE);
+    return TRUE;
+}
+
+void CDialog::OnOK()
+{
+    if (UpdateData(TRUE))
+        EndDialog(IDOK);
+}
+
+void CDialog::OnCancel()
+{
+    EndDialog(IDCANCEL);
+}
+
+BOOL CDialog::PreTranslateMessage(MSG* message)
+{
+    return m_hWnd && IsDialogMessage(m_hWnd, message);
+}
+
+BOOL CDialog::OnCmdMsg(UINT id, int code, void* extra, void* handlerInfo)
+{
+    if (CWnd::OnCmdMsg(id, code, extra, handlerInfo))
+        return TRUE;
+    // What a dialog does not handle of the commands proper, its parent and the application may.
+    const bool isCommand = code == int{CN_COMMAND} && (id & 0x8000) && id < 0xF000;
+    if (!isCommand)
+        return FALSE;
+    CWnd* const parent = m_hWnd ? FromHandlePermanent(::GetParent(m_hWnd)) : nullptr;
+    if (parent && parent->OnCmdMsg(id, code, extra, handlerInfo))
+        return TRUE;
+    CWinApp* const application = AfxGetApp();
+    return application && application->OnCmdMsg(id, code, extra, handlerInfo);
+}
+
+BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+BOOL CFrameWnd::Create(LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect, UINT menuId)
+{
+    const LPCTSTR name = MAKEINTRESOURCE(menuId);
+    HMENU menu = nullptr;
+    if (menuId)
+        menu = LoadMenu(AfxFindResourceHandle(name, RT_MENU), name);
+    return CreateEx(0, className, windowName, style, rect, nullptr, menu);
+}
+
+void CFrameWnd::OnDestroy()
+{
+    if (AfxGetMainWnd() == this)
+        PostQuitMessage(0);
+    Default();
+}
+
+void CFrameWnd::PostNcDestroy()
+{
+    if (AfxGetMainWnd() == this)
+        AfxGetApp()->m_pMainWnd = nullptr;
+    delete this;
+}

@@ -1,0 +1,212 @@
+// Property pages and sheets.
+#include <afxdlgs.h>
+
+IMPLEMENT_DYNAMIC(CPropertyPage, CDialog)
+IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
+
+namespace {
+INT_PTR CALLBACK PageProc(HWND, UINT, WPARAM, LPARAM)
+{
+    return FALSE;
+}
+
+CPropertySheet* SheetOf(const CPropertyPage& page)
+{
+    const HWND parent = page.m_hWnd ? GetParent(page.m_hWnd) : nullptr;
+    return dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(parent));
+}
+} // namespace
+
+CPropertyPage::CPropertyPage() : CPropertyPage(0) {}
+
+CPropertyPage::CPropertyPage(UINT templateId, UINT caption) : CDialog(templateId)
+{
+    m_psp.dwSize = sizeof m_psp;
+    m_psp.dwFlags = PSP_USECALLBACK;
+    m_psp.hInstance = AfxGetResourceHandle();
+    m_psp.pfnDlgProc = PageProc;
+    m_psp.pfnCallback = PageCallback;
+    if (caption && m_caption.LoadString(caption))
+        m_psp.dwFlags |= PSP_USETITLE;
+}
+
+/// The page as the system wants it, with the template's module filled in.
+PROPSHEETPAGEW CPropertyPage::Prepare()
+{
+    PROPSHEETPAGEW page = m_psp;
+    page.pszTemplate = MAKEINTRESOURCE(m_templateId);
+    if (!FindResource(page.hInstance, page.pszTemplate, RT_DIALOG))
+        page.hInstance = AfxFindResourceHandle(page.pszTemplate, RT_DIALOG);
+    page.pszTitle = m_caption;
+    page.lParam = reinterpret_cast<LPARAM>(this);
+    m_activatedBefore = false;
+    return page;
+}
+
+UINT CALLBACK CPropertyPage::PageCallback(HWND, UINT message, PROPSHEETPAGEW* page)
+{
+    // The page's dialog is the next window to be created.
+    if (message == PSPCB_CREATE)
+        AfxHookWindowCreate(reinterpret_cast<CPropertyPage*>(page->lParam));
+    return TRUE;
+}
+
+void CPropertyPage::SetModified(BOOL changed)
+{
+    if (m_hWnd)
+        GetParent()->SendMessage(changed ? PSM_CHANGED : PSM_UNCHANGED, reinterpret_cast<WPARAM>(m_hWnd));
+}
+
+LRESULT CPropertyPage::QuerySiblings(WPARAM wParam, LPARAM lParam)
+{
+    const CPropertySheet* const sheet = SheetOf(*this);
+    if (!sheet)
+        return 0;
+    for (int index = 0; index < sheet->GetPageCount(); ++index) {
+        const CPropertyPage* const page = sheet->GetPage(index);
+        if (page == this || !page->m_hWnd)
+            continue;
+        if (const LRESULT answer = page->SendMessage(PSM_QUERYSIBLINGS, wParam, lParam))
+            return answer;
+    }
+    return 0;
+}
+
+BOOL CPropertyPage::OnSetActive()
+{
+    if (m_activatedBefore)
+        UpdateData(FALSE);
+    m_activatedBefore = true;
+    return TRUE;
+}
+
+BOOL CPropertyPage::OnKillActive()
+{
+    return UpdateData(TRUE);
+}
+
+BOOL CPropertyPage::OnApply()
+{
+    OnOK();
+    return TRUE;
+}
+
+void CPropertyPage::OnReset()
+{
+    OnCancel();
+}
+
+void CPropertyPage::OnOK() {}
+
+void CPropertyPage::OnCancel() {}
+
+BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    switch (reinterpret_cast<const NMHDR*>(lParam)->code) {
+    case static_cast<UINT>(PSN_SETACTIVE):
+        *result = OnSetActive() ? 0 : -1;
+        return TRUE;
+    case static_cast<UINT>(PSN_KILLACTIVE):
+        *result = OnKillActive() ? FALSE : TRUE;
+        return TRUE;
+    case static_cast<UINT>(PSN_APPLY):
+        *result = OnApply() ? PSNRET_NOERROR : PSNRET_INVALID_NOCHANGEPAGE;
+        return TRUE;
+    case static_cast<UINT>(PSN_RESET):
+        OnReset();
+        return TRUE;
+    case static_cast<UINT>(PSN_HELP):
+        SendMessage(WM_COMMAND, ID_HELP);
+        return TRUE;
+    default:
+        return CDialog::OnNotify(wParam, lParam, result);
+    }
+}
+
+BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
+    ON_MESSAGE(WM_INITDIALOG, &CPropertySheet::HandleInitDialog)
+END_MESSAGE_MAP()
+
+CPropertySheet::CPropertySheet(LPCTSTR caption, CWnd* parent, UINT firstPage) : m_caption(caption), m_parent(parent)
+{
+    m_psh.dwSize = sizeof m_psh;
+    m_psh.dwFlags = PSH_PROPSHEETPAGE;
+    m_psh.nStartPage = firstPage;
+}
+
+void CPropertySheet::AddPage(CPropertyPage* page)
+{
+    m_pages.push_back(page);
+}
+
+int CPropertySheet::GetPageCount() const
+{
+    return static_cast<int>(m_pages.size());
+}
+
+CPropertyPage* CPropertySheet::GetPage(int index) const
+{
+    return m_pages.at(static_cast<size_t>(index));
+}
+
+CPropertyPage* CPropertySheet::GetActivePage() const
+{
+    const auto window = reinterpret_cast<HWND>(SendMessage(PSM_GETCURRENTPAGEHWND));
+    for (CPropertyPage* page : m_pages)
+        if (page->m_hWnd && page->m_hWnd == window)
+            return page;
+    return nullptr;
+}
+
+BOOL CPropertySheet::SetActivePage(int index)
+{
+    return static_cast<BOOL>(SendMessage(PSM_SETCURSEL, static_cast<WPARAM>(index)));
+}
+
+BOOL CPropertySheet::PressButton(int button)
+{
+    return static_cast<BOOL>(SendMessage(PSM_PRESSBUTTON, static_cast<WPARAM>(button)));
+}
+
+CTabCtrl* CPropertySheet::GetTabControl() const
+{
+    m_tab.m_hWnd = reinterpret_cast<HWND>(SendMessage(PSM_GETTABCONTROL));
+    return &m_tab;
+}
+
+INT_PTR CPropertySheet::DoModal()
+{
+    std::vector<PROPSHEETPAGEW> pages;
+    for (CPropertyPage* page : m_pages)
+        pages.push_back(page->Prepare());
+
+    PROPSHEETHEADERW header = m_psh;
+    header.hInstance = AfxGetInstanceHandle();
+    header.pszCaption = m_caption;
+    header.nPages = static_cast<UINT>(pages.size());
+    header.ppsp = pages.data();
+    if (m_parent && m_parent->m_hWnd)
+        header.hwndParent = GetAncestor(m_parent->m_hWnd, GA_ROOT);
+    else
+        header.hwndParent = GetActiveWindow();
+
+    // The sheet's dialog is the first window that the call creates.
+    AfxHookWindowCreate(this);
+    const INT_PTR result = PropertySheetW(&header);
+    AfxUnhookWindowCreate();
+    if (result < 0)
+        return -1;
+    return result > 0 ? IDOK : IDCANCEL;
+}
+
+LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM)
+{
+    const LRESULT result = Default();
+    OnInitDialog();
+    return result;
+}
+
+BOOL CPropertySheet::OnInitDialog()
+{
+    return TRUE;
+}
