@@ -1,0 +1,144 @@
+#include "expr/expression_edits.h"
+
+#include "expr/evaluator.h"
+#include "frame/settings_values.h"
+
+namespace {
+constexpr int kMaxTyped = 254;
+
+int g_quiet = 0;
+
+CString TextOf(HWND control)
+{
+    CString text;
+    CWnd::FromHandle(control)->GetWindowText(text);
+    return text;
+}
+
+/// Texts of edits stay as they are where nothing would change, so that nobody is notified.
+void ReplaceText(HWND control, const CString& text)
+{
+    if (!(TextOf(control) == text))
+        SetWindowText(control, text);
+}
+
+CString DisplayText(double value, const int* isSet)
+{
+    return !isSet || *isSet ? CString(FormatForDisplay(value).c_str()) : CString();
+}
+
+std::optional<int> EvaluateWhole(const char* text)
+{
+    int value = 0;
+    if (!EvalFieldInt(text, &value))
+        return std::nullopt;
+    return value;
+}
+} // namespace
+
+BEGIN_MESSAGE_MAP(CExpEqEditBase, CEdit)
+    ON_WM_CHAR()
+END_MESSAGE_MAP()
+
+int CExpEqEditBase::SubclassDlgItem(unsigned id, CWnd* parent)
+{
+    const BOOL subclassed = CEdit::SubclassDlgItem(id, parent);
+    if (subclassed)
+        LimitText(kMaxTyped);
+    return subclassed;
+}
+
+void CExpEqEditBase::Disable()
+{
+    EnableWindow(FALSE);
+}
+
+void CExpEqEditBase::Enable()
+{
+    EnableWindow(TRUE);
+}
+
+void CExpEqEditBase::OnChar(UINT character, UINT repeatCount, UINT flags)
+{
+    if (character != L'=') {
+        CEdit::OnChar(character, repeatCount, flags);
+        return;
+    }
+    const CString text = TextOf(m_hWnd);
+    if (text.IsEmpty())
+        return;
+    if (const std::optional<std::string> value = Evaluate(CStringA(text)))
+        ReplaceText(m_hWnd, CString(value->c_str()));
+}
+
+std::optional<std::string> CExpEqEdit::Evaluate(const char* text) const
+{
+    double value = 0;
+    if (!EvalFieldReal(text, &value))
+        return std::nullopt;
+    return FormatForDisplay(value);
+}
+
+std::optional<std::string> CExpEqEditInt::Evaluate(const char* text) const
+{
+    const std::optional<int> value = EvaluateWhole(text);
+    return value ? std::optional(std::to_string(*value)) : std::nullopt;
+}
+
+std::optional<std::string> CExpEqEditUInt::Evaluate(const char* text) const
+{
+    const std::optional<int> value = EvaluateWhole(text);
+    return value ? std::optional(std::to_string(static_cast<unsigned>(*value))) : std::nullopt;
+}
+
+int& ExpressionQuietFlag()
+{
+    return g_quiet;
+}
+
+void DDX_Expression(CDataExchange* exchange, int id, double& value, int* isSet)
+{
+    const HWND control = exchange->PrepareEditCtrl(id);
+    if (!exchange->m_bSaveAndValidate) {
+        ReplaceText(control, DisplayText(value, isSet));
+        return;
+    }
+    const CString text = TextOf(control);
+    if (text.IsEmpty() && isSet) {
+        *isSet = 0;
+        return;
+    }
+    double evaluated = 0;
+    if (EvalFieldReal(CStringA(text), &evaluated)) {
+        value = evaluated;
+        if (isSet)
+            *isSet = 1;
+        return;
+    }
+    const bool quiet = g_quiet != 0;
+    g_quiet = 0;
+    if (quiet)
+        return;
+    AfxMessageBox(AFX_IDP_PARSE_REAL);
+    exchange->Fail();
+}
+
+void DDV_ExpressionRange(CDataExchange* exchange, double value, double low, double high)
+{
+    if (!exchange->m_bSaveAndValidate || (low <= value && value <= high) || g_quiet != 0)
+        return;
+    CString prompt;
+    AfxFormatString2(prompt, AFX_IDP_PARSE_REAL_RANGE, CString(FormatForDisplay(low).c_str()),
+                     CString(FormatForDisplay(high).c_str()));
+    AfxMessageBox(prompt, MB_OK | MB_ICONEXCLAMATION, AFX_IDP_PARSE_REAL_RANGE);
+    exchange->Fail();
+}
+
+void ShowExpression(const CWnd* parent, int id, double* value, int* isSet)
+{
+    const CWnd* const control = parent ? parent->GetDlgItem(id) : nullptr;
+    if (!control)
+        return;
+    *value = WithoutNoise(*value);
+    ReplaceText(control->m_hWnd, DisplayText(*value, isSet));
+}

@@ -1,0 +1,52 @@
+#include "frame/module.h"
+
+#include <new>
+
+#include <afxdllx.h>
+
+#include "frame/settings_locations.h"
+#include "frame/tool_library.h"
+
+namespace {
+AFX_EXTENSION_MODULE g_module;
+}
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*)
+{
+    if (reason == DLL_PROCESS_DETACH) {
+        AfxTermExtensionModule(g_module);
+        return TRUE;
+    }
+    if (reason == DLL_PROCESS_ATTACH && !AfxInitExtensionModule(g_module, instance))
+        return FALSE;
+    LocateHelpFile();
+    return TRUE;
+}
+
+HINSTANCE ModuleInstance()
+{
+    return g_module.hModule;
+}
+
+CString LoadText(UINT id)
+{
+    const wchar_t* resource = nullptr;
+    const int length = LoadStringW(ModuleInstance(), id, reinterpret_cast<LPWSTR>(&resource), 0);
+    return length > 0 ? CString(resource, length) : CString();
+}
+
+CDynLinkLibrary* InitPelmarDlgsDLL()
+{
+    return new (std::nothrow) CDynLinkLibrary(g_module);
+}
+
+int InitializePelmarDlgsDLL()
+{
+    LocateSettings();
+    return LoadToolLibrary(GetSettingsLocations().toolLibraryName.c_str()) ? 1 : 0;
+}
+
+void FinalizePelmarDlgsDLL()
+{
+    UnloadToolLibrary();
+}

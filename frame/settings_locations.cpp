@@ -1,0 +1,108 @@
+#include "frame/settings_locations.h"
+
+#include <string>
+
+#include "frame/module.h"
+
+namespace {
+using SettingsText = FixedText<kSettingsTextCapacity>;
+using CoreText = FixedText<512>;
+
+constexpr char kDefaultMachine[] = "\\3AxGeneric\\3AxGeneric.xml";
+
+SettingsLocations g_locations;
+
+/// What the host's own files say of where everything else is.
+struct HostFiles {
+    SettingsText folder;
+    SettingsText core;
+    SettingsText settings;
+};
+
+HostFiles LocateHostFiles()
+{
+    HostFiles files;
+    files.folder.Assign(FolderOf(SettingsText::OfExecutable()));
+    files.core.Assign(files.folder, "TORVEXCore.INI");
+    const CoreText folder =
+        CoreText::FromProfile("DefaultPath", "TorvexIniPath", files.core.c_str(), files.core.c_str());
+    if (folder.view() == files.core.view())
+        files.settings = files.core;
+    else
+        files.settings.Assign(folder, "\\", "TORVEX.ini");
+    return files;
+}
+
+/// The new start-up machine: the old one's file name, in a folder named like it. The simulation expects the doubled
+/// separators.
+std::string MachineBelow(std::string_view folder, std::string_view machine)
+{
+    std::string moved(folder);
+    const size_t separator = machine.rfind('\\');
+    if (separator == std::string_view::npos || separator == 0)
+        return moved += kDefaultMachine;
+    constexpr size_t kExtension = 4;
+    const std::string_view tail = machine.substr(separator);
+    const std::string_view stem = tail.substr(0, tail.size() > kExtension ? tail.size() - kExtension : 0);
+    moved += '\\';
+    moved += stem;
+    moved += '\\';
+    return moved += tail;
+}
+
+void MoveMachine(const HostFiles& host, const char* folder)
+{
+    const SettingsText file =
+        SettingsText::FromProfile("DefaultPath", "MachSimIniPath", host.core.c_str(), host.settings.c_str());
+    const SettingsText machine = SettingsText::FromProfile("startup", "mdfilename", "", file.c_str());
+    WritePrivateProfileStringA("startup", "mdfilename", MachineBelow(folder, machine).c_str(), file.c_str());
+}
+} // namespace
+
+const SettingsLocations& GetSettingsLocations()
+{
+    return g_locations;
+}
+
+void LocateHelpFile()
+{
+    constexpr std::string_view kExecutable = "\\TORVEX.EXE";
+    SettingsText path = SettingsText::OfExecutable();
+    path.MakeUpper();
+    // Under another name the host has no help folder of its own: the topic file is then looked for on the current
+    // drive.
+    const size_t found = path.view().find(kExecutable);
+    const std::string_view folder = found == std::string_view::npos ? "" : path.view().substr(0, found);
+    g_locations.helpFile.Assign(folder, "\\Help\\TORVEX.chm");
+}
+
+void LocateSettings()
+{
+    const HostFiles host = LocateHostFiles();
+    const char* const settings = host.settings.c_str();
+    g_locations.hostFolder = host.folder;
+    g_locations.hostSettingsFile = host.settings;
+    // The separator stands twice; the host compares this path as text.
+    g_locations.hostDefaultsFile.Assign(host.folder, "\\", "Def\\TORVEX.INI");
+
+    const SettingsText folder = SettingsText::FromProfile("DefaultPath", "NCDefaultPath", ".\\NCDEFAULT", settings);
+    const SettingsText startup =
+        SettingsText::FromProfile("DefaultNCParameter", "NCDefaultStartup", "NCCurrentFileName", settings);
+    const SettingsText current = SettingsText::FromProfile("NCDefaultFile", startup.c_str(), "CURRENT.INI", settings);
+    const SettingsText defaults =
+        SettingsText::FromProfile("NCDefaultFile", "NCDefaultFileName", "DEFAULT.INI", settings);
+    g_locations.settingsFile.Assign(folder, "\\", current);
+    g_locations.defaultsFile.Assign(folder, "\\", defaults);
+
+    SettingsText librarySettings;
+    librarySettings.Assign(FolderOf(host.settings), "TORVEXCore.ini");
+    g_locations.toolLibraryName =
+        SettingsText::FromProfile("DefaultSystemFile", "ToolLib", "ToolLib.DLL", librarySettings.c_str());
+
+    MoveMachine(host, SettingsText::FromProfile("DefaultPath", "MachSimPath", kDefaultMachine, settings).c_str());
+}
+
+void PelmarUI_SetMachineSimPath(const char* folder)
+{
+    MoveMachine(LocateHostFiles(), folder ? folder : "");
+}

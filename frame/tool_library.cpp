@@ -1,0 +1,86 @@
+#include "frame/tool_library.h"
+
+#include <array>
+
+#include <windows.h>
+
+namespace {
+constexpr std::array kNames = {
+    "ToolLib_nGetMillTool",
+    "ToolLib_nLoadMillTool",
+    "ToolLib_nGetSRMTool",
+    "ToolLib_nGetSRMTrueMillTool",
+    "ToolLib_nLoadSRMTool",
+    "ToolLib_nGetDrillTool",
+    "ToolLib_nLoadDrillTool",
+    "ToolLib_nGetLatheTool",
+    "ToolLib_nLoadLatheTool",
+    "ToolLib_nGetLDrillTool",
+    "ToolLib_nLoadLDrillTool",
+    "ToolLib_nGetDgtzTool",
+    "ToolLib_nLoadDgtzTool",
+    "ToolLib_nGetEdmTool",
+    "ToolLib_nLoadEdmTool",
+    "ToolLib_nGetThreadMillTool",
+    "ToolLib_nLoadThreadMillTool",
+    "ToolLib_nGetPlungeRoughTool",
+    "ToolLib_nLoadPlungeRoughTool",
+    "ToolLib_nGetTool",
+    "ToolLib_nLoadTool",
+    "ToolLib_nGetMaterial",
+    "ToolLib_nLoadMaterial",
+    "ToolLib_nGetSRMMaterial",
+    "ToolLib_nLoadSRMMaterial",
+    "ToolLib_nGetSpeedFeedInfo",
+    "ToolLib_nSetSpeedFeedInfo",
+    "ToolLib_nGetToolMaterialName",
+    "ToolLib_nGetToolUnits",
+    "ToolLib_nSetToolUnits",
+    "ToolLib_vCloseRecordSets",
+};
+static_assert(kNames.size() == static_cast<size_t>(ToolEntryPoint::CloseRecordSets) + 1);
+
+HMODULE g_library = nullptr;
+std::array<FARPROC, kNames.size()> g_entryPoints{};
+
+template <class Function> Function* Resolved(ToolEntryPoint entryPoint)
+{
+    const FARPROC address = g_entryPoints[static_cast<size_t>(entryPoint)];
+    return reinterpret_cast<Function*>(reinterpret_cast<void*>(address));
+}
+
+bool ResolveEntryPoints()
+{
+    for (size_t index = 0; index < kNames.size(); ++index) {
+        const FARPROC address = GetProcAddress(g_library, kNames[index]);
+        if (!address)
+            return false;
+        g_entryPoints[index] = address;
+    }
+    return true;
+}
+} // namespace
+
+bool LoadToolLibrary(const char* name)
+{
+    const HMODULE library = LoadLibraryA(name);
+    if (!library)
+        return false;
+    const HMODULE before = g_library;
+    if (before && before != library)
+        UnloadToolLibrary();
+    else if (before)
+        FreeLibrary(before);
+    g_library = library;
+    return ResolveEntryPoints();
+}
+
+void UnloadToolLibrary()
+{
+    if (!g_library)
+        return;
+    if (const auto closeRecordSets = Resolved<void()>(ToolEntryPoint::CloseRecordSets))
+        closeRecordSets();
+    FreeLibrary(g_library);
+    g_library = nullptr;
+}

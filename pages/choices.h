@@ -1,0 +1,10 @@
+// Lists of choices that several pages offer, in the order of the stored values.
+#pragma once
+
+#include <windows.h>
+
+#include "resources/resource.h"
+
+constexpr UINT kLengthTypes[] = {IDS_CONSTANT, IDS_TOOL_RADIUS};
+constexpr UINT kCornerTypes[] = {IDS_ARC, IDS_LINE};
+constexpr UINT kFeedsBetween[] = {IDS_FEED_DIRECT, IDS_FEED_CUTTING, IDS_FEED_RAPID};
