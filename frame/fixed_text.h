@@ -8,6 +8,8 @@
 
 #include <windows.h>
 
+#include "frame/profile.h"
+
 /// A zero-terminated text in a buffer of `Capacity` characters, terminator included. What does not fit is cut off.
 template <size_t Capacity> class FixedText {
 public:
@@ -36,7 +38,7 @@ public:
     static FixedText FromProfile(const char* section, const char* key, const char* fallback, const char* file)
     {
         FixedText text;
-        GetPrivateProfileStringA(section, key, fallback, text.m_text, DWORD{Capacity}, file);
+        profile::ReadText(section, key, fallback, text.m_text, file);
         return text;
     }
 

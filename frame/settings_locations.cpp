@@ -55,7 +55,7 @@ void MoveMachine(const HostFiles& host, const char* folder)
     const SettingsText file =
         SettingsText::FromProfile("DefaultPath", "MachSimIniPath", host.core.c_str(), host.settings.c_str());
     const SettingsText machine = SettingsText::FromProfile("startup", "mdfilename", "", file.c_str());
-    WritePrivateProfileStringA("startup", "mdfilename", MachineBelow(folder, machine).c_str(), file.c_str());
+    profile::WriteText("startup", "mdfilename", MachineBelow(folder, machine).c_str(), file.c_str());
 }
 } // namespace
 

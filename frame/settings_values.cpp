@@ -1,5 +1,6 @@
 #include "frame/settings_values.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -7,6 +8,7 @@
 #include <windows.h>
 
 #include "frame/number_text.h"
+#include "frame/profile.h"
 #include "frame/settings_locations.h"
 
 namespace {
@@ -34,16 +36,11 @@ double ReadRealFrom(const char* file, const char* section, const char* key, doub
     number_text::FixedBuffer fallbackText;
     number_text::Print(fallbackText, fallback, kStoredDecimals);
     char text[kRealCapacity];
-    GetPrivateProfileStringA(section, key, fallbackText.data(), text, DWORD{kRealCapacity}, file);
+    profile::ReadText(section, key, fallbackText.data(), text, file);
     double value = fallback;
     if (!ScanReal(text, value))
         ScanReal(fallbackText.data(), value);
     return value;
-}
-
-int ReadWholeFrom(const char* file, const char* section, const char* key, int fallback)
-{
-    return static_cast<int>(GetPrivateProfileIntA(section, key, fallback, file));
 }
 
 const char* SettingsFile()
@@ -61,19 +58,19 @@ bool WriteWhole(const char* section, const char* key, int value)
 {
     char text[16];
     *std::to_chars(text, text + sizeof text - 1, value).ptr = '\0';
-    return WritePrivateProfileStringA(section, key, text, SettingsFile());
+    return profile::WriteText(section, key, text, SettingsFile());
 }
 
 bool WriteReal(const char* section, const char* key, double value)
 {
     number_text::FixedBuffer text;
     number_text::Print(text, value, kStoredDecimals);
-    return WritePrivateProfileStringA(section, key, text.data(), SettingsFile());
+    return profile::WriteText(section, key, text.data(), SettingsFile());
 }
 
 int ReadWhole(const char* section, const char* key, int fallback)
 {
-    return ReadWholeFrom(SettingsFile(), section, key, fallback);
+    return profile::ReadWhole(section, key, fallback, SettingsFile());
 }
 
 double ReadReal(const char* section, const char* key, double fallback)
@@ -83,7 +80,7 @@ double ReadReal(const char* section, const char* key, double fallback)
 
 int ReadDefaultWhole(const char* section, const char* key, int fallback)
 {
-    return ReadWholeFrom(DefaultsFile(), section, key, fallback);
+    return profile::ReadWhole(section, key, fallback, DefaultsFile());
 }
 
 double ReadDefaultReal(const char* section, const char* key, double fallback)
