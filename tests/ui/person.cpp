@@ -52,7 +52,12 @@ std::vector<HWND> Boxes(DWORD process)
 
 std::string Narrow(const std::wstring& text)
 {
-    return std::string(text.begin(), text.end());
+    const int length = static_cast<int>(text.size());
+    std::string narrow(text.size() * 3, '\0'); // no UTF-16 unit takes more
+    const int size = static_cast<int>(narrow.size());
+    narrow.resize(static_cast<size_t>(
+        WideCharToMultiByte(CP_UTF8, 0, text.c_str(), length, narrow.data(), size, nullptr, nullptr)));
+    return narrow;
 }
 
 } // namespace

@@ -1,0 +1,119 @@
+#include "main_frame.h"
+
+#include "option_pages.h"
+#include "options_sheet.h"
+#include "resource.h"
+#include "settings.h"
+
+IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
+
+BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
+    ON_WM_SIZE()
+    ON_WM_DESTROY()
+    ON_COMMAND(ID_FILE_EXIT, &CMainFrame::OnExit)
+    ON_COMMAND(ID_NC_OPTIONS, &CMainFrame::OnNcOptions)
+    ON_COMMAND(ID_UNITS_INCH, &CMainFrame::OnInch)
+    ON_COMMAND(ID_UNITS_MILLIMETRE, &CMainFrame::OnMillimetre)
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr int kMargin = 8;
+constexpr int kPathHeight = 18;
+
+CString Text(UINT id)
+{
+    CString text;
+    text.LoadString(id);
+    return text;
+}
+
+HFONT MakeMessageFont()
+{
+    NONCLIENTMETRICS metrics{};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    return CreateFontIndirect(&metrics.lfMessageFont);
+}
+
+} // namespace
+
+BOOL CMainFrame::Create()
+{
+    const LPCTSTR windowClass = AfxRegisterWndClass(0, LoadCursor(nullptr, IDC_ARROW), GetSysColorBrush(COLOR_BTNFACE),
+                                                    LoadIcon(nullptr, IDI_APPLICATION));
+    if (!CFrameWnd::Create(windowClass, Text(IDS_MAIN_TITLE), WS_OVERLAPPEDWINDOW, CRect(40, 40, 800, 760),
+                           IDR_MAIN_MENU))
+        return FALSE;
+
+    m_font = MakeMessageFont();
+    m_path.CreateEx(0, L"STATIC", nullptr, WS_CHILD | WS_VISIBLE | SS_NOPREFIX | SS_PATHELLIPSIS, CRect(), this,
+                    reinterpret_cast<HMENU>(INT_PTR{IDC_SETTINGS_PATH}));
+    m_path.SetFont(m_font);
+    m_text.CreateEx(WS_EX_CLIENTEDGE, L"EDIT", nullptr,
+                    WS_CHILD | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL, CRect(), this,
+                    reinterpret_cast<HMENU>(INT_PTR{IDC_SETTINGS_TEXT}));
+    m_text.SetFont(m_font);
+
+    for (const OptionPage& page : OptionPages())
+        page.restore();
+    m_units = LoadUnits();
+    ChangeUnits(m_units);
+    ShowSettings();
+    return TRUE;
+}
+
+void CMainFrame::OnSize(UINT type, int width, int height)
+{
+    CFrameWnd::OnSize(type, width, height);
+    if (!m_text.m_hWnd)
+        return;
+    const int textTop = 2 * kMargin + kPathHeight;
+    m_path.MoveWindow(kMargin, kMargin, width - 2 * kMargin, kPathHeight);
+    m_text.MoveWindow(kMargin, textTop, width - 2 * kMargin, height - textTop - kMargin);
+}
+
+void CMainFrame::OnDestroy()
+{
+    DeleteObject(m_font);
+    CFrameWnd::OnDestroy();
+}
+
+void CMainFrame::OnExit()
+{
+    PostMessage(WM_CLOSE);
+}
+
+void CMainFrame::OnNcOptions()
+{
+    COptionsSheet(this, m_units).DoModal();
+    ShowSettings();
+}
+
+void CMainFrame::OnInch()
+{
+    ChangeUnits(0);
+}
+
+void CMainFrame::OnMillimetre()
+{
+    ChangeUnits(1);
+}
+
+void CMainFrame::ChangeUnits(int units)
+{
+    for (const OptionPage& page : OptionPages())
+        page.convert(units);
+    if (m_units != units)
+        SaveUnits(units);
+    m_units = units;
+    const UINT item = units == 1 ? ID_UNITS_MILLIMETRE : ID_UNITS_INCH;
+    CheckMenuRadioItem(GetMenu(m_hWnd), ID_UNITS_INCH, ID_UNITS_MILLIMETRE, item, MF_BYCOMMAND);
+}
+
+void CMainFrame::ShowSettings()
+{
+    const CString text = NcSettingsText();
+    m_path.SetWindowText(Text(IDS_SETTINGS_FILE) + L" " + NcSettingsPath());
+    m_text.SetWindowText(text.IsEmpty() ? Text(IDS_NO_SETTINGS_YET) : text);
+}

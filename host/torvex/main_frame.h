@@ -1,0 +1,29 @@
+// The host's main window: the menu, and below it the NC settings file as it stands on disk.
+#pragma once
+
+#include <afxwin.h>
+
+class CMainFrame : public CFrameWnd {
+    DECLARE_DYNAMIC(CMainFrame)
+public:
+    /// Creates the window. FALSE where the system refuses it.
+    BOOL Create();
+
+protected:
+    void OnSize(UINT type, int width, int height);
+    void OnDestroy();
+    void OnExit();
+    void OnNcOptions();
+    void OnInch();
+    void OnMillimetre();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void ChangeUnits(int units);
+    void ShowSettings();
+
+    int m_units = 0; ///< 0 inch, 1 millimetre
+    HFONT m_font = nullptr;
+    CStatic m_path;
+    CEdit m_text;
+};

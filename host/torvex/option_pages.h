@@ -1,0 +1,19 @@
+// The NC option pages of the host, and the records that they edit.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <span>
+
+#include <afxdlgs.h>
+
+/// One kind of operation: its page and its live record.
+struct OptionPage {
+    std::function<std::unique_ptr<CPropertyPage>(int units)> make; ///< the page, filled and in these units
+    std::function<void()> restore;                                 ///< the record from the settings file
+    std::function<void()> save;                                    ///< the record to the settings file
+    std::function<void(long units)> convert;                       ///< the record to these units
+};
+
+/// All of them, in the order of their tabs.
+std::span<const OptionPage> OptionPages();

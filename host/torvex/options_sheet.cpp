@@ -1,0 +1,83 @@
+#include "options_sheet.h"
+
+#include <PelmarDlgs.h>
+
+#include "option_pages.h"
+#include "resource.h"
+
+IMPLEMENT_DYNAMIC(COptionsSheet, CPropertySheetTVEx)
+
+BEGIN_MESSAGE_MAP(COptionsSheet, CPropertySheetTVEx)
+    ON_BN_CLICKED(IDC_PAGE_DEFAULTS, &COptionsSheet::OnPageDefaults)
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr int kApplyButton = 0x3021; ///< as the system numbers it in every property sheet
+
+CString Text(UINT id)
+{
+    CString text;
+    text.LoadString(id);
+    return text;
+}
+
+CRect RectIn(const CWnd& parent, HWND control)
+{
+    CRect rect;
+    ::GetWindowRect(control, rect);
+    MapWindowPoints(nullptr, parent.m_hWnd, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+} // namespace
+
+COptionsSheet::COptionsSheet(CWnd* parent, int units) : CPropertySheetTVEx(Text(IDS_OPTIONS_TITLE), parent)
+{
+    for (const OptionPage& page : OptionPages()) {
+        m_ownPages.push_back(page.make(units));
+        AddPage(m_ownPages.back().get());
+    }
+}
+
+BOOL COptionsSheet::OnInitDialog()
+{
+    // Beside the sheet's own buttons, at the left border of the pages.
+    CRect rect = RectIn(*this, ::GetDlgItem(m_hWnd, IDOK));
+    const int width = rect.Width() * 3 / 2;
+    rect.left = RectIn(*this, GetTabControl()->m_hWnd).left;
+    rect.right = rect.left + width;
+    m_defaults.CreateEx(0, L"BUTTON", Text(IDS_PAGE_DEFAULTS), WS_CHILD | WS_VISIBLE | WS_TABSTOP, rect, this,
+                        reinterpret_cast<HMENU>(INT_PTR{IDC_PAGE_DEFAULTS}));
+    m_defaults.SetFont(GetFont());
+    return CPropertySheetTVEx::OnInitDialog();
+}
+
+void COptionsSheet::OnPageDefaults()
+{
+    if (const CPropertyPage* const page = GetActivePage())
+        page->SendMessage(kSetDefaultsMessage);
+}
+
+void COptionsSheet::SaveRecords()
+{
+    for (const OptionPage& page : OptionPages())
+        page.save();
+}
+
+INT_PTR COptionsSheet::DoModal()
+{
+    const INT_PTR result = CPropertySheetTVEx::DoModal();
+    if (result == IDOK)
+        SaveRecords();
+    return result;
+}
+
+LRESULT COptionsSheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT result = CPropertySheetTVEx::WindowProc(message, wParam, lParam);
+    // The sheet disables the button when every page has taken its changes.
+    if (message == WM_COMMAND && LOWORD(wParam) == kApplyButton && !GetDlgItem(kApplyButton)->IsWindowEnabled())
+        SaveRecords();
+    return result;
+}

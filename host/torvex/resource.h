@@ -1,0 +1,20 @@
+// Ids of the host's resources.
+#pragma once
+
+#define IDR_MAIN_MENU 100
+
+#define ID_FILE_EXIT 40001
+#define ID_NC_OPTIONS 40002
+#define ID_UNITS_INCH 40003
+#define ID_UNITS_MILLIMETRE 40004
+
+#define IDC_SETTINGS_PATH 150
+#define IDC_SETTINGS_TEXT 151
+#define IDC_PAGE_DEFAULTS 152
+
+#define IDS_MAIN_TITLE 200
+#define IDS_OPTIONS_TITLE 201
+#define IDS_PAGE_DEFAULTS 202
+#define IDS_NO_TOOL_LIBRARY 203
+#define IDS_SETTINGS_FILE 204
+#define IDS_NO_SETTINGS_YET 205

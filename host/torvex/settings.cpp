@@ -1,0 +1,54 @@
+#include "settings.h"
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include <PelmarDlgs.h>
+
+namespace {
+
+constexpr char kSection[] = "Settings";
+constexpr char kUnitsKey[] = "Units";
+
+const char* HostFile()
+{
+    return GetSettingsLocations().hostSettingsFile.c_str();
+}
+
+const char* NcFile()
+{
+    return GetSettingsLocations().settingsFile.c_str();
+}
+
+} // namespace
+
+int LoadUnits()
+{
+    return GetPrivateProfileIntA(kSection, kUnitsKey, 0, HostFile()) == 1 ? 1 : 0;
+}
+
+void SaveUnits(int units)
+{
+    WritePrivateProfileStringA(kSection, kUnitsKey, std::to_string(units).c_str(), HostFile());
+}
+
+void MakeNcFolder()
+{
+    const std::string file = NcFile();
+    CreateDirectoryA(file.substr(0, file.rfind('\\')).c_str(), nullptr);
+}
+
+CString NcSettingsPath()
+{
+    wchar_t path[1284];
+    const DWORD length = GetFullPathName(CString(NcFile()), 1284, path, nullptr);
+    return length > 0 && length < 1284 ? CString(path) : CString(NcFile());
+}
+
+CString NcSettingsText()
+{
+    std::ifstream file(NcFile(), std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    return CString(text.c_str());
+}

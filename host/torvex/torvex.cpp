@@ -1,0 +1,60 @@
+// TORVEX: the reference host. It shows how an application loads, uses and ends PelmarDlgs.
+#include <string>
+
+#include <PelmarDlgs.h>
+#include <afxwin.h>
+#include <util.h>
+
+#include "main_frame.h"
+#include "resource.h"
+#include "settings.h"
+
+namespace {
+
+/// Relative folders in the settings files start from the host's own folder, wherever the host was started.
+void GoToOwnFolder()
+{
+    wchar_t path[MAX_PATH];
+    const DWORD length = GetModuleFileName(nullptr, path, MAX_PATH);
+    const std::wstring file(path, length);
+    SetCurrentDirectory(file.substr(0, file.rfind(L'\\') + 1).c_str());
+}
+
+class CTorvexApp : public CWinApp {
+public:
+    CTorvexApp() : CWinApp(L"TORVEX") {}
+
+    BOOL InitInstance() override
+    {
+        GoToOwnFolder();
+        if (!InitPelmarDlgsDLL())
+            return FALSE;
+        if (!InitializePelmarDlgsDLL())
+            AfxMessageBox(IDS_NO_TOOL_LIBRARY);
+        util::IAppUI::GetInstance()->SetSettingsPath(GetSettingsLocations().hostSettingsFile.c_str());
+        MakeNcFolder();
+
+        auto* const frame = new CMainFrame;
+        m_pMainWnd = frame;
+        if (!frame->Create())
+            return FALSE;
+        frame->ShowWindow(SW_SHOW);
+        frame->UpdateWindow();
+        return TRUE;
+    }
+
+    int ExitInstance() override
+    {
+        FinalizePelmarDlgsDLL();
+        return CWinApp::ExitInstance();
+    }
+};
+
+CTorvexApp g_application;
+
+} // namespace
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int)
+{
+    return AfxWinMain();
+}

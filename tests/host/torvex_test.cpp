@@ -1,0 +1,256 @@
+// The reference host, started as a program of its own in a folder of its own and used from outside.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "host/torvex/resource.h"
+#include "resources/resource.h"
+#include "ui/person.h"
+#include "ui/ui_thread.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kApplyButton = 0x3021;
+
+/// A folder with the host and its libraries, and the program running there.
+class Torvex : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        static int number = 0;
+        const std::string name = std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++number);
+        m_folder = fs::temp_directory_path() / ("torvex-test-" + name);
+        fs::remove_all(m_folder);
+        fs::create_directory(m_folder);
+        wchar_t self[MAX_PATH];
+        GetModuleFileName(nullptr, self, MAX_PATH);
+        for (const fs::directory_entry& file : fs::directory_iterator(fs::path(self).parent_path()))
+            if (file.path().extension() == L".dll" || file.path().filename() == L"TORVEX.EXE")
+                fs::copy_file(file.path(), m_folder / file.path().filename());
+    }
+    void TearDown() override
+    {
+        End();
+        std::error_code ignored;
+        fs::remove_all(m_folder, ignored);
+    }
+
+    /// Starts the program from another current directory than its own.
+    void Launch()
+    {
+        STARTUPINFOW startup{};
+        startup.cb = sizeof startup;
+        std::wstring command = (m_folder / L"TORVEX.EXE").wstring();
+        ASSERT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, L"C:\\", &startup,
+                                   &m_process));
+        CloseHandle(m_process.hThread);
+    }
+    void Start()
+    {
+        Launch();
+        m_main = ui::WaitForWindow(L"TORVEX", m_process.dwProcessId);
+    }
+    /// Closes the program as a user does; 0 when it ended well.
+    DWORD Close()
+    {
+        PostMessage(m_main, WM_CLOSE, 0, 0);
+        DWORD code = STILL_ACTIVE;
+        if (WaitForSingleObject(m_process.hProcess, ui::kLimitMilliseconds) == WAIT_OBJECT_0)
+            GetExitCodeProcess(m_process.hProcess, &code);
+        return code;
+    }
+    void End()
+    {
+        if (!m_process.hProcess)
+            return;
+        TerminateProcess(m_process.hProcess, 1);
+        WaitForSingleObject(m_process.hProcess, ui::kLimitMilliseconds);
+        CloseHandle(m_process.hProcess);
+        m_process = {};
+    }
+
+    void Command(UINT id) { PostMessage(m_main, WM_COMMAND, id, 0); }
+    void OpenOptions()
+    {
+        Command(ID_NC_OPTIONS);
+        m_sheet = ui::WaitForWindow(L"Параметры ЧПУ", m_process.dwProcessId);
+        m_page = nullptr;
+        for (const HWND child : ui::Children(m_sheet))
+            if (ui::ClassOf(child) == L"#32770" && IsWindowVisible(child))
+                m_page = child;
+        ASSERT_NE(nullptr, m_page);
+    }
+    void CloseOptions(int button)
+    {
+        ui::Click(m_sheet, button);
+        ASSERT_TRUE(ui::WaitForClose(m_sheet));
+    }
+    void Type(int id, const std::wstring& text)
+    {
+        ui::Type(m_page, id, text);
+        ASSERT_TRUE(ui::WaitUntil([&] { return ui::TextOf(m_page, id) == text; }));
+    }
+    bool ComesToHold(int id, const std::wstring& text)
+    {
+        return ui::WaitUntil([&] { return ui::TextOf(m_page, id) == text; });
+    }
+
+    fs::path NcFile() const { return m_folder / L"NCDEFAULT" / L"CURRENT.INI"; }
+    std::string NcText() const
+    {
+        std::ifstream file(NcFile(), std::ios::binary);
+        return std::string{std::istreambuf_iterator<char>(file), {}};
+    }
+    bool ComesToWrite(const std::string& line)
+    {
+        return ui::WaitUntil([&] { return NcText().find("\r\n" + line + "\r\n") != std::string::npos; });
+    }
+
+    fs::path m_folder;
+    PROCESS_INFORMATION m_process{};
+    HWND m_main = nullptr;
+    HWND m_sheet = nullptr;
+    HWND m_page = nullptr;
+};
+
+TEST_F(Torvex, SavesOnOkAndRestoresAtTheNextStart)
+{
+    Start();
+    OpenOptions();
+    EXPECT_EQ(L"0.8000", ui::TextOf(m_page, IDC_2X_SIDE_ROUGH_STEP));
+    Type(IDC_2X_SIDE_ROUGH_STEP, L"1/8+0.02");
+    CloseOptions(IDOK);
+    EXPECT_TRUE(ComesToWrite("SideRoughStep=0.145000"));
+    EXPECT_TRUE(ui::WaitUntil(
+        [&] { return ui::TextOf(m_main, IDC_SETTINGS_TEXT).find(L"SideRoughStep=0.145000") != std::wstring::npos; }));
+    EXPECT_EQ(0u, Close());
+    End();
+
+    Start();
+    OpenOptions();
+    EXPECT_EQ(L"0.1450", ui::TextOf(m_page, IDC_2X_SIDE_ROUGH_STEP));
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, MakesTheMissingNcFolderAndShowsWhereTheFileWillBe)
+{
+    Start();
+    EXPECT_TRUE(fs::is_directory(NcFile().parent_path()));
+    EXPECT_NE(std::wstring::npos, ui::TextOf(m_main, IDC_SETTINGS_PATH).find(NcFile().wstring()));
+    EXPECT_EQ(L"Файла ещё нет: он появится, когда параметры будут сохранены.", ui::TextOf(m_main, IDC_SETTINGS_TEXT));
+}
+
+TEST_F(Torvex, CancelWritesNothing)
+{
+    Start();
+    OpenOptions();
+    Type(IDC_2X_SIDE_ROUGH_STEP, L"0.5");
+    CloseOptions(IDCANCEL);
+    OpenOptions();
+    EXPECT_EQ(L"0.8000", ui::TextOf(m_page, IDC_2X_SIDE_ROUGH_STEP));
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
+    EXPECT_FALSE(fs::exists(NcFile()));
+}
+
+TEST_F(Torvex, ApplySavesEvenWhenCancelFollows)
+{
+    Start();
+    OpenOptions();
+    Type(IDC_2X_SIDE_ROUGH_STEP, L"0.5");
+    ui::Choose(m_page, IDC_2X_SIDE_ROUGH_STEP_TYPE, 0);
+    ASSERT_TRUE(ui::WaitUntil([&] { return ui::IsEnabled(m_sheet, kApplyButton); }));
+    ui::Click(m_sheet, kApplyButton);
+    EXPECT_TRUE(ComesToWrite("SideRoughStep=0.500000"));
+    EXPECT_TRUE(ComesToWrite("SideRoughStepType=0"));
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, RefusedApplyWritesNothing)
+{
+    Start();
+    OpenOptions();
+    Type(IDC_2X_CORNER_ANGLE, L"29");
+    ui::Choose(m_page, IDC_2X_SIDE_ROUGH_STEP_TYPE, 0);
+    ASSERT_TRUE(ui::WaitUntil([&] { return ui::IsEnabled(m_sheet, kApplyButton); }));
+    // With its access key: the focus stays in the field.
+    PostMessage(m_sheet, WM_COMMAND, kApplyButton, reinterpret_cast<LPARAM>(ui::Control(m_sheet, kApplyButton)));
+    const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+    EXPECT_EQ(L"Введите число от 30.0000 до 150.0000.", box.text);
+    EXPECT_EQ(L"TORVEX", box.caption);
+    ui::Answer(box, IDOK);
+    Type(IDC_2X_CORNER_ANGLE, L"135"); // leaving the field would ask again
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
+    EXPECT_FALSE(fs::exists(NcFile()));
+}
+
+TEST_F(Torvex, AsksForANumberInRussian)
+{
+    Start();
+    OpenOptions();
+    Type(IDC_2X_SIDE_ROUGH_STEP, L"x");
+    ui::Press(ui::Control(m_page, IDC_2X_SIDE_ROUGH_STEP), VK_RETURN);
+    const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+    EXPECT_EQ(L"Введите число.", box.text);
+    ui::Answer(box, IDOK);
+}
+
+TEST_F(Torvex, ShowsAndSavesInTheUnitsOfTheMenuAndKeepsThem)
+{
+    Start();
+    Command(ID_UNITS_MILLIMETRE);
+    OpenOptions();
+    EXPECT_EQ(L"25.0000", ui::TextOf(m_page, IDC_2X_RAPID_PLANE));
+    CloseOptions(IDOK);
+    EXPECT_TRUE(ComesToWrite("RapidPlane=25.000000"));
+    EXPECT_EQ(0u, Close());
+    End();
+
+    Start();
+    OpenOptions();
+    EXPECT_EQ(L"25.0000", ui::TextOf(m_page, IDC_2X_RAPID_PLANE));
+    CloseOptions(IDCANCEL);
+    Command(ID_UNITS_INCH);
+    OpenOptions();
+    EXPECT_EQ(L"1.0000", ui::TextOf(m_page, IDC_2X_RAPID_PLANE));
+    CloseOptions(IDCANCEL);
+}
+
+TEST_F(Torvex, DefaultsButtonOfTheSheetRestoresThePageInFront)
+{
+    Start();
+    OpenOptions();
+    Type(IDC_2X_SIDE_ROUGH_STEP, L"0.5");
+    ui::Click(m_sheet, IDC_PAGE_DEFAULTS);
+    EXPECT_TRUE(ComesToHold(IDC_2X_SIDE_ROUGH_STEP, L"0.8000"));
+    CloseOptions(IDCANCEL);
+}
+
+TEST_F(Torvex, GoesOnWithoutTheToolLibraryAfterSayingSoOnce)
+{
+    fs::remove(m_folder / L"ToolLib.dll");
+    Launch();
+    const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+    EXPECT_EQ(L"Библиотека инструмента не найдена или неполна. Выбор инструмента недоступен, остальные параметры "
+              L"ЧПУ работают.",
+              box.text);
+    ui::Answer(box, IDOK);
+    m_main = ui::WaitForWindow(L"TORVEX", m_process.dwProcessId);
+    EXPECT_FALSE(ui::IsBoxOpen(m_process.dwProcessId));
+    OpenOptions();
+    CloseOptions(IDOK);
+    EXPECT_TRUE(ComesToWrite("SideRoughStep=0.800000"));
+    EXPECT_EQ(0u, Close());
+}
+
+} // namespace
