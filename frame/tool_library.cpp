@@ -51,6 +51,8 @@ template <class Function> Function* Resolved(ToolEntryPoint entryPoint)
 
 bool ResolveEntryPoints()
 {
+    // Addresses of a library that is gone must not serve for the entry points that the new one lacks.
+    g_entryPoints = {};
     for (size_t index = 0; index < kNames.size(); ++index) {
         const FARPROC address = GetProcAddress(g_library, kNames[index]);
         if (!address)

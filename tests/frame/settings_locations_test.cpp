@@ -159,6 +159,7 @@ TEST_F(MachineSimulation, TheStartupFileMayStandElsewhere)
 {
     const std::string file = host.folder + "\\sim.ini";
     WriteFile(file, "[startup]\r\nmdfilename=C:\\m\\Mill.xml\r\n");
+    WriteFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=" + host.folder + "\r\n");
     HostSettings("[DefaultPath]\r\nMachSimIniPath=" + file + "\r\nMachSimPath=F:\\Sim\r\n");
     EXPECT_EQ("F:\\Sim\\\\Mill\\\\Mill.xml", Value(file, "startup", "mdfilename"));
     EXPECT_EQ("<absent>", Value(host.coreFile, "startup", "mdfilename"));

@@ -112,13 +112,17 @@ TEST_F(SettingsValue, TheDefaultsFileIsReadAndNeverWritten)
     EXPECT_EQ("[S]\r\nWhole=3\r\nReal=0.5\r\n", ReadFile(host.defaults));
 }
 
-TEST_F(SettingsValue, AFileThatCannotBeWrittenKeepsItsContent)
+TEST_F(SettingsValue, AWriteThatCannotBeDoneIsReportedAndLeavesNothingBehind)
 {
-    host.WriteSettings("[S]\r\nWhole=3\r\n");
-    SetFileAttributesA(host.settings.c_str(), FILE_ATTRIBUTE_READONLY);
+    CreateDirectoryA(host.settings.c_str(), nullptr);
     EXPECT_FALSE(WriteWhole("S", "Whole", 4));
-    SetFileAttributesA(host.settings.c_str(), FILE_ATTRIBUTE_NORMAL);
-    EXPECT_EQ("[S]\r\nWhole=3\r\n", host.ReadSettings());
+    EXPECT_FALSE(WriteReal("S", "Real", 4.0));
+    EXPECT_EQ(9, ReadWhole("S", "Whole", 9));
+    RemoveDirectoryA(host.settings.c_str());
+
+    RemoveDirectoryA((host.folder + "\\NC").c_str());
+    EXPECT_FALSE(WriteWhole("S", "Whole", 4));
+    EXPECT_EQ(9, ReadWhole("S", "Whole", 9));
 }
 
 class DisplayPrecision : public SettingsValue {
