@@ -41,6 +41,7 @@ constexpr std::array kNames = {
 static_assert(kNames.size() == static_cast<size_t>(ToolEntryPoint::CloseRecordSets) + 1);
 
 HMODULE g_library = nullptr;
+bool g_materialLibrary = false;
 std::array<FARPROC, kNames.size()> g_entryPoints{};
 
 template <class Function> Function* Resolved(ToolEntryPoint entryPoint)
@@ -85,4 +86,9 @@ void UnloadToolLibrary()
         closeRecordSets();
     FreeLibrary(g_library);
     g_library = nullptr;
+}
+
+bool& MaterialLibrarySwitch()
+{
+    return g_materialLibrary;
 }

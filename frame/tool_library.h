@@ -42,3 +42,7 @@ bool LoadToolLibrary(const char* name);
 
 /// Has the tool library close its files and frees it. Without one it does nothing.
 void UnloadToolLibrary();
+
+/// Whether materials may be chosen from the tool library and gauge lengths taken from it. Off as long as nobody
+/// switches it on: the module itself never does.
+bool& MaterialLibrarySwitch();

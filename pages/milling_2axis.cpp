@@ -49,9 +49,7 @@ RecordKind<Record> g_kind("Options2x", kFields);
 
 // ---- the page's controls ----
 
-constexpr Range kCornerAngles{30.0, 150.0};
-
-constexpr EditRow<Record> kEdits[] = {
+constexpr ExchangeRow<Record> kExchange[] = {
     {IDC_2X_MAX_FEED_BETWEEN, &Record::MaxFeedBetween, kAnyReal},
     {IDC_2X_CORNER_ANGLE, &Record::CornerAngle, kCornerAngles},
     {IDC_2X_CORNER_CLEARANCE, &Record::CornerClearance, kAnyReal},
@@ -252,13 +250,13 @@ void CDefs2xPage::SetData(int& lookAhead, int& showToolpath)
 void CDefs2xPage::DoDataExchange(CDataExchange* exchange)
 {
     CExpRegenPropertyPage::DoDataExchange(exchange);
-    ExchangeEdits<Record>(exchange, m_options, kEdits);
+    ExchangeControls<Record>(exchange, m_options, kExchange);
 }
 
 BOOL CDefs2xPage::OnSetActive()
 {
     if (m_firstActivation) {
-        AttachExpressionEdits<Record>(*this, kEdits, m_edits);
+        AttachExpressionEdits<Record>(*this, kExchange, m_edits);
         m_firstActivation = 0;
     }
     FillChoices<Record>(*this, kChoices);
@@ -300,7 +298,7 @@ void CDefs2xPage::ShowOptionsOfOperation()
     if (m_operationCode == kAlignsPlunges)
         return;
     m_options.AlignPlunges = 0;
-    ShowCheck(*this, IDC_2X_ALIGN_PLUNGES, 0);
+    ShowCheck(*this, IDC_2X_ALIGN_PLUNGES, false);
     EnableControl(*this, IDC_2X_ALIGN_PLUNGES, false);
 }
 
@@ -323,7 +321,7 @@ void CDefs2xPage::EnableNestingDepth()
 
 bool CDefs2xPage::LeaveEdit(int id)
 {
-    return ::LeaveEdit<Record>(*this, m_options, kEdits, id);
+    return ::LeaveEdit<Record>(*this, m_options, kExchange, id);
 }
 
 void CDefs2xPage::TakeChoice(int id)
@@ -429,8 +427,8 @@ void CDefs2xPage::OnSelDepthFinishStepType()
 
 void CDefs2xPage::OnSelPathIslandDepthType()
 {
-    StoreSelection(*this, IDC_2X_PATH_ISLAND_DEPTHS, m_options.PathIslandDepths);
-    NotifySiblings(*this, kIslandDepthsChosen, m_options.PathIslandDepths);
+    if (StoreSelection(*this, IDC_2X_PATH_ISLAND_DEPTHS, m_options.PathIslandDepths))
+        NotifySiblings(*this, kIslandDepthsChosen, m_options.PathIslandDepths);
     SetModified();
 }
 

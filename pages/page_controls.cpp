@@ -2,6 +2,18 @@
 
 #include "frame/module.h"
 
+namespace {
+/// Adds the texts to the list where it is still empty.
+template <class Text, class Load> void FillWith(const CWnd& page, int id, std::span<const Text> texts, Load load)
+{
+    const HWND list = ControlOf(page, id);
+    if (!list || SendMessage(list, CB_GETCOUNT, 0, 0) > 0)
+        return;
+    for (const Text text : texts)
+        SendMessage(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(load(text).GetString()));
+}
+} // namespace
+
 void EnableControl(const CWnd& page, int id, bool enable)
 {
     if (const HWND control = ControlOf(page, id))
@@ -16,11 +28,12 @@ void HideControl(const CWnd& page, int id)
 
 void FillList(const CWnd& page, int id, std::span<const UINT> texts)
 {
-    const HWND list = ControlOf(page, id);
-    if (!list || SendMessage(list, CB_GETCOUNT, 0, 0) > 0)
-        return;
-    for (const UINT text : texts)
-        SendMessage(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(LoadText(text).GetString()));
+    FillWith(page, id, texts, LoadText);
+}
+
+void FillList(const CWnd& page, int id, std::span<const wchar_t* const> texts)
+{
+    FillWith(page, id, texts, [](const wchar_t* text) { return CString(text); });
 }
 
 void SelectIndex(const CWnd& page, int id, int index)
@@ -29,24 +42,46 @@ void SelectIndex(const CWnd& page, int id, int index)
         SendMessage(list, CB_SETCURSEL, static_cast<WPARAM>(static_cast<INT_PTR>(index)), 0);
 }
 
-void StoreSelection(const CWnd& page, int id, int& value)
+std::optional<int> SelectedIndex(const CWnd& page, int id)
 {
     const HWND list = ControlOf(page, id);
-    const int index = list ? static_cast<int>(SendMessage(list, CB_GETCURSEL, 0, 0)) : CB_ERR;
-    if (index >= 0)
-        value = index;
+    const LRESULT index = list ? SendMessage(list, CB_GETCURSEL, 0, 0) : CB_ERR;
+    if (index < 0)
+        return std::nullopt;
+    return static_cast<int>(index);
 }
 
-void ShowCheck(const CWnd& page, int id, int value)
+bool StoreSelection(const CWnd& page, int id, int& value)
 {
-    if (const HWND box = ControlOf(page, id))
-        SendMessage(box, BM_SETCHECK, value ? BST_CHECKED : BST_UNCHECKED, 0);
+    const std::optional<int> index = SelectedIndex(page, id);
+    value = index.value_or(value);
+    return index.has_value();
 }
 
-void StoreCheck(const CWnd& page, int id, int& value)
+bool StoreNewSelection(const CWnd& page, int id, int& value)
+{
+    const int before = value;
+    return StoreSelection(page, id, value) && value != before;
+}
+
+void ShowCheck(const CWnd& page, int id, bool checked)
 {
     if (const HWND box = ControlOf(page, id))
-        value = SendMessage(box, BM_GETCHECK, 0, 0) == BST_CHECKED ? 1 : 0;
+        SendMessage(box, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
+void StoreCheck(const CWnd& page, int id, int& value, int unchecked)
+{
+    if (const HWND box = ControlOf(page, id))
+        value = SendMessage(box, BM_GETCHECK, 0, 0) == BST_CHECKED ? 1 : unchecked;
+}
+
+void ExchangeOnOff(CDataExchange* exchange, int id, int& value)
+{
+    if (exchange->m_bSaveAndValidate)
+        StoreCheck(*exchange->m_pDlgWnd, id, value, kGougeCheckOff);
+    else
+        ShowCheck(*exchange->m_pDlgWnd, id, value != kGougeCheckOff);
 }
 
 void NotifySiblings(CPropertyPage& page, WPARAM code, int index)

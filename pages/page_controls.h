@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <limits>
+#include <optional>
 #include <span>
 #include <variant>
 
@@ -21,11 +22,31 @@ struct Range {
 constexpr double kUnbounded = std::numeric_limits<float>::max();
 constexpr Range kAnyReal{-kUnbounded, kUnbounded};
 constexpr Range kNotNegative{0.0, kUnbounded};
+constexpr Range kCornerAngles{30.0, 150.0};
 
-/// An edit: a real is an expression edit, checked against its range; a whole number is a plain edit.
-template <class Record> struct EditRow {
-    constexpr EditRow(int control, double Record::*real, Range bounds) : id(control), field(real), range(bounds) {}
-    constexpr EditRow(int control, int Record::*whole) : id(control), field(whole) {}
+/// What of a control a whole-number field is exchanged with.
+enum class Binding {
+    Text,
+    Check, ///< 1 when checked, else 0
+    OnOff, ///< 1 when checked, else 2; whatever is not 2 shows as checked
+    Index, ///< of a list's selection
+};
+
+/// A control that takes part in the page's data exchange.
+template <class Record> struct ExchangeRow {
+    /// An expression edit of a real, checked where it has a range.
+    constexpr ExchangeRow(int control, double Record::*real, std::optional<Range> bounds = {})
+        : id(control), field(real), range(bounds), isExpressionEdit(true)
+    {
+    }
+    constexpr ExchangeRow(int control, int Record::*whole, Binding how = Binding::Text)
+        : id(control), field(whole), binding(how)
+    {
+    }
+    /// An edit that takes expressions when the page's data are exchanged, but does not know "=".
+    constexpr ExchangeRow PlainEdit() const { return With(false); }
+    /// A whole number in an edit that knows "=".
+    constexpr ExchangeRow ExpressionEdit() const { return With(true); }
 
     bool IsReal() const { return std::holds_alternative<double Record::*>(field); }
     double& RealOf(Record& record) const { return record.*std::get<double Record::*>(field); }
@@ -33,17 +54,28 @@ template <class Record> struct EditRow {
 
     int id;
     std::variant<int Record::*, double Record::*> field;
-    Range range = kAnyReal;
+    std::optional<Range> range;
+    Binding binding = Binding::Text;
+    bool isExpressionEdit = false;
+
+private:
+    constexpr ExchangeRow With(bool expressionEdit) const
+    {
+        ExchangeRow row = *this;
+        row.isExpressionEdit = expressionEdit;
+        return row;
+    }
 };
 
-/// A list whose position is the stored value.
+/// A list; the stored value is the position in it plus the first value.
 template <class Record> struct ChoiceRow {
     int id;
     int Record::*field;
     std::span<const UINT> texts; ///< of the string table, in the list's order
+    int firstValue = 0;
 };
 
-/// A check box: 1 when checked, else 0.
+/// A check box that its handlers keep: 1 when checked, else 0.
 template <class Record> struct CheckRow {
     int id;
     int Record::*field;
@@ -69,11 +101,21 @@ void EnableControl(const CWnd& page, int id, bool enable);
 void HideControl(const CWnd& page, int id);
 /// Fills an empty list; a filled one keeps its items.
 void FillList(const CWnd& page, int id, std::span<const UINT> texts);
+void FillList(const CWnd& page, int id, std::span<const wchar_t* const> texts);
 void SelectIndex(const CWnd& page, int id, int index);
-/// Puts the list's selection into `value`; with nothing selected the value stays.
-void StoreSelection(const CWnd& page, int id, int& value);
-void ShowCheck(const CWnd& page, int id, int value);
-void StoreCheck(const CWnd& page, int id, int& value);
+/// The list's selection; nothing where there is none.
+std::optional<int> SelectedIndex(const CWnd& page, int id);
+/// Puts the list's selection into `value`. False, and the value stays, where nothing is selected.
+bool StoreSelection(const CWnd& page, int id, int& value);
+/// The same, and true only when the selection is another value than before.
+bool StoreNewSelection(const CWnd& page, int id, int& value);
+void ShowCheck(const CWnd& page, int id, bool checked);
+/// Puts 1 into `value` when the box is checked, else `unchecked`.
+void StoreCheck(const CWnd& page, int id, int& value, int unchecked = 0);
+
+/// Gouge check of a check box: 1 is on, 2 is off, and whatever a file holds that is not 2 shows as on.
+constexpr int kGougeCheckOff = 2;
+void ExchangeOnOff(CDataExchange* exchange, int id, int& value);
 
 /// Tells the other pages of the sheet of a change: the new index, or the address of the changed real.
 void NotifySiblings(CPropertyPage& page, WPARAM code, int index);
@@ -81,31 +123,49 @@ void NotifySiblings(CPropertyPage& page, WPARAM code, const double& value);
 
 // ---- tables ----
 
-/// Exchanges the edits in the table's order, checking ranges.
-template <class Record>
-void ExchangeEdits(CDataExchange* exchange, Record& record, std::span<const EditRow<Record>> rows)
+template <class Record> void ExchangeControl(CDataExchange* exchange, Record& record, const ExchangeRow<Record>& row)
 {
-    for (const EditRow<Record>& row : rows) {
-        if (!ControlOf(*exchange->m_pDlgWnd, row.id))
-            continue;
-        if (!row.IsReal()) {
-            DDX_Text(exchange, row.id, row.WholeOf(record));
-            continue;
-        }
+    if (row.IsReal()) {
+        // The field keeps its value until the new one has passed its check.
         double value = row.RealOf(record);
         DDX_Expression(exchange, row.id, value);
-        DDV_ExpressionRange(exchange, value, row.range.low, row.range.high);
+        if (row.range)
+            DDV_ExpressionRange(exchange, value, row.range->low, row.range->high);
         row.RealOf(record) = value;
+        return;
+    }
+    switch (row.binding) {
+    case Binding::Text:
+        DDX_Text(exchange, row.id, row.WholeOf(record));
+        break;
+    case Binding::Check:
+        DDX_Check(exchange, row.id, row.WholeOf(record));
+        break;
+    case Binding::OnOff:
+        ExchangeOnOff(exchange, row.id, row.WholeOf(record));
+        break;
+    case Binding::Index:
+        DDX_CBIndex(exchange, row.id, row.WholeOf(record));
+        break;
     }
 }
 
-/// Makes the table's reals expression edits, one object each.
+/// Exchanges the controls in the table's order, checking ranges.
 template <class Record>
-void AttachExpressionEdits(CWnd& page, std::span<const EditRow<Record>> rows, std::span<CExpEqEdit> edits)
+void ExchangeControls(CDataExchange* exchange, Record& record, std::span<const ExchangeRow<Record>> rows)
+{
+    for (const ExchangeRow<Record>& row : rows)
+        if (ControlOf(*exchange->m_pDlgWnd, row.id))
+            ExchangeControl(exchange, record, row);
+}
+
+/// Makes the table's expression edits such, one object each.
+template <class Record>
+void AttachExpressionEdits(CWnd& page, std::span<const ExchangeRow<Record>> rows, std::span<CExpEqEdit> edits)
 {
     size_t next = 0;
-    for (const EditRow<Record>& row : rows)
-        if (row.IsReal() && next < edits.size())
+    for (const ExchangeRow<Record>& row : rows)
+        if (row.isExpressionEdit && next < edits.size())
             edits[next++].SubclassDlgItem(static_cast<unsigned>(row.id), &page);
 }
 
@@ -119,22 +179,31 @@ template <class Record>
 void ShowChoices(const CWnd& page, const Record& record, std::span<const ChoiceRow<Record>> rows)
 {
     for (const ChoiceRow<Record>& row : rows)
-        SelectIndex(page, row.id, record.*row.field);
+        SelectIndex(page, row.id, record.*row.field - row.firstValue);
 }
 
 template <class Record> void ShowChecks(const CWnd& page, const Record& record, std::span<const CheckRow<Record>> rows)
 {
     for (const CheckRow<Record>& row : rows)
-        ShowCheck(page, row.id, record.*row.field);
+        ShowCheck(page, row.id, record.*row.field != 0);
 }
 
 // ---- handlers ----
 
-/// The user has chosen from a list: keeps the choice and marks the page modified.
+/// The user has chosen from a list: keeps the choice, if there is one.
+template <class Record>
+void StoreChoice(const CWnd& page, Record& record, std::span<const ChoiceRow<Record>> rows, int id)
+{
+    const ChoiceRow<Record>& row = RowOf(rows, id);
+    if (const std::optional<int> index = SelectedIndex(page, id))
+        record.*row.field = *index + row.firstValue;
+}
+
+/// The same, and marks the page modified.
 template <class Record>
 void TakeChoice(CPropertyPage& page, Record& record, std::span<const ChoiceRow<Record>> rows, int id)
 {
-    StoreSelection(page, id, record.*RowOf(rows, id).field);
+    StoreChoice(page, record, rows, id);
     page.SetModified();
 }
 
@@ -148,7 +217,7 @@ void TakeCheck(CPropertyPage& page, Record& record, std::span<const CheckRow<Rec
 
 /// The user leaves an edit: takes the page's data and shows the field again. False when the data were refused.
 template <class Record>
-bool LeaveEdit(CPropertyPage& page, Record& record, std::span<const EditRow<Record>> rows, int id)
+bool LeaveEdit(CPropertyPage& page, Record& record, std::span<const ExchangeRow<Record>> rows, int id)
 {
     if (!page.UpdateData(TRUE))
         return false;

@@ -13,7 +13,7 @@ enum class Scaling {
     Always,
 };
 
-/// How one field of a record is kept. A field without a key lives in memory only.
+/// How one field of a record is kept. Without a key it lives in memory only.
 template <class Record> struct Field {
     using Whole = int Record::*;
     using Real = double Record::*;
@@ -28,6 +28,35 @@ template <class Record> struct Field {
     /// A length while its type is 0; else a multiple of the tool radius, which units do not touch.
     constexpr Field(const char* name, Real real, Whole type) : key(name), member(real), lengthType(type) {}
 
+    /// Read from another section than it is written to.
+    constexpr Field ReadFrom(const char* section) const
+    {
+        Field field = *this;
+        field.readSection = section;
+        return field;
+    }
+    /// A whole number that is put in bounds when it is read.
+    constexpr Field Sanitized(int (*sanitizer)(int)) const
+    {
+        Field field = *this;
+        field.sanitize = sanitizer;
+        return field;
+    }
+    /// An operation of the record that runs as soon as the field has been read, before the next one is.
+    constexpr Field ThenRun(void (Record::*operation)()) const
+    {
+        Field field = *this;
+        field.afterRead = operation;
+        return field;
+    }
+    /// Not taken from the defaults file: the built-in value stays.
+    constexpr Field AbsentFromDefaults() const
+    {
+        Field field = *this;
+        field.inDefaults = false;
+        return field;
+    }
+
     bool IsScaled(const Record& record) const
     {
         return lengthType ? record.*lengthType == 0 : scaling == Scaling::Always;
@@ -37,6 +66,10 @@ template <class Record> struct Field {
     std::variant<Whole, Real> member;
     Scaling scaling = Scaling::Never;
     Whole lengthType = nullptr;
+    const char* readSection = nullptr;
+    int (*sanitize)(int) = nullptr;
+    void (Record::*afterRead)() = nullptr;
+    bool inDefaults = true;
 };
 
 /// One kind of record: its table, its one live instance and the units that its page was last given.
@@ -63,15 +96,26 @@ public:
                 Read(record, field, ReadWhole, ReadReal);
     }
 
+    /// The units that the defaults file is in.
+    int UnitsOfDefaults(int fallback = kInch) const
+    {
+        return ReadDefaultWhole(m_section, m_fields.front().key, fallback);
+    }
+
     /// The built-in values, converted to the units of the defaults file and overlaid by what that file holds; all of it
     /// then converted to the kind's current units.
     void Defaults(Record& record, const Record& builtIn = Record()) const
     {
-        const int units = ReadDefaultWhole(m_section, m_fields.front().key, kInch);
+        Defaults(record, builtIn, UnitsOfDefaults());
+    }
+
+    /// The same where the record has its own way of telling the units of the defaults file.
+    void Defaults(Record& record, const Record& builtIn, int unitsOfDefaults) const
+    {
         record = builtIn;
-        Convert(record, units);
+        Convert(record, unitsOfDefaults);
         for (const Field<Record>& field : m_fields.subspan(1))
-            if (field.key)
+            if (field.key && field.inDefaults)
                 Read(record, field, ReadDefaultWhole, ReadDefaultReal);
         Convert(record, m_currentUnits);
     }
@@ -109,12 +153,16 @@ private:
     template <class WholeReader, class RealReader>
     void Read(Record& record, const Field<Record>& field, WholeReader readWhole, RealReader readReal) const
     {
+        const char* const section = field.readSection ? field.readSection : m_section;
         if (const auto* whole = std::get_if<typename Field<Record>::Whole>(&field.member)) {
-            record.** whole = readWhole(m_section, field.key, record.**whole);
-            return;
+            const int value = readWhole(section, field.key, record.**whole);
+            record.** whole = field.sanitize ? field.sanitize(value) : value;
+        } else {
+            double& real = record.*std::get<typename Field<Record>::Real>(field.member);
+            real = readReal(section, field.key, real);
         }
-        double& real = record.*std::get<typename Field<Record>::Real>(field.member);
-        real = readReal(m_section, field.key, real);
+        if (field.afterRead)
+            (record.*field.afterRead)();
     }
 
     const char* m_section;
