@@ -1,0 +1,4 @@
+// Dialogs of the tests themselves.
+#pragma once
+
+#define IDD_SPY 900
