@@ -1,9 +1,4 @@
-#include <gtest/gtest.h>
-
-#include <limits>
-
-#include "module/host_folder.h"
-#include "pages/page_driver.h"
+#include "pages/page_checks.h"
 
 namespace {
 
@@ -69,17 +64,7 @@ TEST_F(Record2x, CompensationAtTheTopIsNeitherSavedNorRestored)
 
 TEST_F(Record2x, RestoresEveryKey)
 {
-    // Every key another value than the built-in one, and each its own.
-    std::string file = "[Options2x]\r\n";
-    int next = 2;
-    for (size_t at = std::string(kFreshFile).find("\r\n") + 2; at < std::string(kFreshFile).size();) {
-        const std::string fresh = kFreshFile;
-        const size_t equals = fresh.find('=', at);
-        const size_t end = fresh.find("\r\n", at);
-        const bool real = fresh.substr(equals, end - equals).find('.') != std::string::npos;
-        file += fresh.substr(at, equals - at) + "=" + std::to_string(next++) + (real ? ".500000" : "") + "\r\n";
-        at = end + 2;
-    }
+    const std::string file = EveryKeyChanged(kFreshFile);
     host.WriteSettings(file);
     options.vOptions_Restore();
     EXPECT_EQ(2, options.Units);
@@ -208,14 +193,14 @@ TEST_F(Record2x, DefaultsComeFromTheDefaultsFileInItsUnits)
     EXPECT_EQ(0, options.DispPlungeChanges);
 }
 
-TEST_F(Record2x, HostileValuesYieldTheFallback)
+TEST_F(Record2x, RealsThatAreNoNumbersKeepTheirValue)
 {
-    for (const char* hostile : {"", "   ", "abc", "nan", "1e400", "-inf"}) {
-        host.WriteSettings(std::string("[Options2x]\r\nMaxFeedBetween=") + hostile + "\r\n");
-        C2AxisOptionsInfo fresh;
-        fresh.vOptions_Restore();
-        EXPECT_EQ(4.0, fresh.MaxFeedBetween) << hostile;
-    }
+    CheckHostileReals(host, kFreshFile, &C2AxisOptionsInfo::vOptions_Restore, &C2AxisOptionsInfo::vOptions_Save);
+}
+
+TEST_F(Record2x, WholeNumbersAreTakenAsThePlatformReadsThem)
+{
+    CheckWholeNumbers(host, kFreshFile, &C2AxisOptionsInfo::vOptions_Restore, &C2AxisOptionsInfo::vOptions_Save);
 }
 
 TEST_F(Record2x, TheLiveInstanceIsAlwaysTheSame)
@@ -234,27 +219,15 @@ constexpr int kNestingDepth = 3911;
 constexpr int kAlignPlunges = 4594;
 constexpr int kDefaultsButton = 4456;
 
-class Page2x : public testing::Test {
+class Page2x : public OptionPageTest<CDefs2xPage, C2AxisOptionsInfo, GetLast2xOptions> {
 protected:
-    Page2x()
-    {
-        *GetLast2xOptions() = C2AxisOptionsInfo();
-        ui::UiThread::Get().Call([this] { page.GetData(0); });
-    }
-    ~Page2x() override
-    {
-        *GetLast2xOptions() = C2AxisOptionsInfo();
-        // The kind's current units are inch again for whoever comes next.
-        ui::UiThread::Get().Call([] { CDefs2xPage().GetData(0); });
-    }
-
-    HostFolder host;
-    CDefs2xPage page;
+    int OtherControl(int) override { return 1058; }
+    void Prepare(CDefs2xPage& made) override { made.m_operationCode = 6; }
 };
 
 TEST_F(Page2x, AnExpressionBecomesAValueInTheSettingsFile)
 {
-    OpenSheet sheet({&page});
+    OpenSheet sheet({page.get()});
     ui::Type(sheet.Page(), kSideRoughStep, L"1/8+0.02");
     ui::TypeAt(ui::Control(sheet.Page(), kSideRoughStep), L"=");
     EXPECT_EQ(L"0.1450", ui::TextOf(sheet.Page(), kSideRoughStep));
@@ -268,19 +241,13 @@ TEST_F(Page2x, AnExpressionBecomesAValueInTheSettingsFile)
 
 TEST_F(Page2x, CancelLeavesTheLiveRecordAlone)
 {
-    OpenSheet sheet({&page});
+    OpenSheet sheet({page.get()});
     ui::Type(sheet.Page(), kSideRoughStep, L"3");
     sheet.Cancel();
     EXPECT_EQ(0.8, GetLast2xOptions()->SideRoughStep);
 }
 
-struct RealControl {
-    int id;
-    double C2AxisOptionsInfo::*field;
-    const wchar_t* shown;
-};
-
-constexpr RealControl kReals[] = {
+const std::vector<RealControl<C2AxisOptionsInfo>> kReals = {
     {3902, &C2AxisOptionsInfo::MaxFeedBetween, L"4.0000"},  {3903, &C2AxisOptionsInfo::CornerAngle, L"135.0000"},
     {3904, &C2AxisOptionsInfo::CornerClearance, L"0.0000"}, {3912, &C2AxisOptionsInfo::SideClearance, L"0.1000"},
     {3905, &C2AxisOptionsInfo::SideRoughStep, L"0.8000"},   {3906, &C2AxisOptionsInfo::SideFinishStep, L"0.0800"},
@@ -288,37 +255,9 @@ constexpr RealControl kReals[] = {
     {3909, &C2AxisOptionsInfo::RapidPlane, L"1.0000"},      {3910, &C2AxisOptionsInfo::RapidPlunge, L"0.1000"},
 };
 
-TEST_F(Page2x, EveryRealIsShownEvaluatedOnLeavingAndKept)
-{
-    OpenSheet sheet({&page});
-    double value = 30.5;
-    for (const RealControl& row : kReals) {
-        EXPECT_EQ(row.shown, ui::TextOf(sheet.Page(), row.id)) << row.id;
-        ui::Type(sheet.Page(), row.id, std::to_wstring(value) + L"+1");
-        ui::FocusOn(sheet.Page(), 1058);
-        EXPECT_EQ(CString(FormatForDisplay(value + 1).c_str()).GetString(), ui::TextOf(sheet.Page(), row.id)) << row.id;
-        value += 2;
-    }
-    sheet.Ok();
-    value = 30.5;
-    for (const RealControl& row : kReals) {
-        EXPECT_EQ(value + 1, GetLast2xOptions()->*row.field) << row.id;
-        value += 2;
-    }
-}
-
-struct WholeControl {
-    int id;
-    int C2AxisOptionsInfo::*field;
-    std::vector<std::wstring> items;
-};
-
-const std::vector<std::wstring> kLengthTypeItems = {L"Константа", L"Радиус инструмента"};
-const std::vector<std::wstring> kFeedItems = {L"Прямое", L"Рабочая", L"Быстрая"};
-
-const WholeControl kLists[] = {
+const std::vector<ListControl<C2AxisOptionsInfo>> kLists = {
     {3964, &C2AxisOptionsInfo::FeedBetweenType, kLengthTypeItems},
-    {1052, &C2AxisOptionsInfo::CornerAngleType, {L"Дуга", L"Прямая"}},
+    {1052, &C2AxisOptionsInfo::CornerAngleType, kCornerTypeItems},
     {1050, &C2AxisOptionsInfo::CornerClearanceType, kLengthTypeItems},
     {3965, &C2AxisOptionsInfo::SideClearanceType, kLengthTypeItems},
     {1053, &C2AxisOptionsInfo::SideRoughStepType, kLengthTypeItems},
@@ -333,78 +272,35 @@ const WholeControl kLists[] = {
     {1064, &C2AxisOptionsInfo::SortType, {L"Нет", L"Авто", L"Вложенные"}},
 };
 
+TEST_F(Page2x, EveryRealIsShownEvaluatedOnLeavingAndKept)
+{
+    CheckReals(kReals);
+}
+
 TEST_F(Page2x, EveryListShowsItsItemsInOrderAndKeepsTheChosenOne)
 {
-    for (const WholeControl& row : kLists) {
-        CDefs2xPage fresh;
-        *GetLast2xOptions() = C2AxisOptionsInfo();
-        ui::UiThread::Get().Call([&] { fresh.GetData(0); });
-        OpenSheet sheet({&fresh});
-        EXPECT_EQ(row.items, ui::Items(sheet.Page(), row.id)) << row.id;
-        EXPECT_EQ(C2AxisOptionsInfo().*row.field, ui::Selection(sheet.Page(), row.id)) << row.id;
-        const int last = static_cast<int>(row.items.size()) - 1;
-        const int chosen = C2AxisOptionsInfo().*row.field == last ? 0 : last;
-        EXPECT_FALSE(sheet.IsModified()) << row.id;
-        ui::Choose(sheet.Page(), row.id, chosen);
-        EXPECT_TRUE(sheet.IsModified()) << row.id;
-        sheet.Ok();
-        EXPECT_EQ(chosen, GetLast2xOptions()->*row.field) << row.id;
-    }
+    CheckLists(kLists);
 }
 
-TEST_F(Page2x, AListWithoutASelectionKeepsTheOldChoice)
+TEST_F(Page2x, AListWithoutASelectionOrWithAValueThatItDoesNotHoldKeepsTheField)
 {
-    OpenSheet sheet({&page});
-    ui::Choose(sheet.Page(), 1064, -1);
-    EXPECT_TRUE(sheet.IsModified());
-    sheet.Ok();
-    EXPECT_EQ(1, GetLast2xOptions()->SortType);
-}
-
-TEST_F(Page2x, AStoredChoiceThatTheListDoesNotHoldSelectsNothingAndIsKept)
-{
-    GetLast2xOptions()->SortType = 99;
-    GetLast2xOptions()->GougeCheck = -5;
-    ui::UiThread::Get().Call([this] { page.GetData(0); });
-    OpenSheet sheet({&page});
-    EXPECT_EQ(-1, ui::Selection(sheet.Page(), 1064));
-    EXPECT_EQ(-1, ui::Selection(sheet.Page(), 1058));
-    sheet.Ok();
-    EXPECT_EQ(99, GetLast2xOptions()->SortType);
-    EXPECT_EQ(-5, GetLast2xOptions()->GougeCheck);
+    CheckListsWithoutSelection(kLists);
 }
 
 TEST_F(Page2x, EveryCheckBoxKeepsItsStateAndMarksThePageModified)
 {
-    struct Box {
-        int id;
-        int C2AxisOptionsInfo::*field;
-    };
-    constexpr Box kBoxes[] = {
-        {4589, &C2AxisOptionsInfo::CutterCompTop},     {4590, &C2AxisOptionsInfo::DepthFirst},
-        {4591, &C2AxisOptionsInfo::DispPlungeChanges}, {4593, &C2AxisOptionsInfo::IslandPlunges},
-        {4594, &C2AxisOptionsInfo::AlignPlunges},
-    };
-    for (const Box& box : kBoxes) {
-        CDefs2xPage fresh;
-        *GetLast2xOptions() = C2AxisOptionsInfo();
-        ui::UiThread::Get().Call([&] { fresh.GetData(0); });
-        fresh.m_operationCode = 6;
-        OpenSheet sheet({&fresh});
-        const int before = C2AxisOptionsInfo().*box.field;
-        EXPECT_EQ(before != 0, ui::IsChecked(sheet.Page(), box.id)) << box.id;
-        ui::Click(sheet.Page(), box.id);
-        EXPECT_TRUE(sheet.IsModified()) << box.id;
-        sheet.Ok();
-        EXPECT_EQ(1 - before, GetLast2xOptions()->*box.field) << box.id;
-    }
+    CheckBoxes({{4589, &C2AxisOptionsInfo::CutterCompTop},
+                {4590, &C2AxisOptionsInfo::DepthFirst},
+                {4591, &C2AxisOptionsInfo::DispPlungeChanges},
+                {4593, &C2AxisOptionsInfo::IslandPlunges},
+                {4594, &C2AxisOptionsInfo::AlignPlunges}});
 }
 
 TEST_F(Page2x, WholeNumbersAreExchangedAndOthersRefused)
 {
     GetLast2xOptions()->PocketNestingType = 1;
-    ui::UiThread::Get().Call([this] { page.GetData(0); });
-    OpenSheet sheet({&page});
+    ui::UiThread::Get().Call([this] { page->GetData(0); });
+    OpenSheet sheet({page.get()});
     EXPECT_EQ(L"1", ui::TextOf(sheet.Page(), kNestingDepth));
     EXPECT_EQ(L"5", ui::TextOf(sheet.Page(), 3913));
     ui::Type(sheet.Page(), kNestingDepth, L"12");
@@ -422,39 +318,16 @@ TEST_F(Page2x, WholeNumbersAreExchangedAndOthersRefused)
 
 TEST_F(Page2x, ValuesOutOfRangeAreRefusedAndBoundsAccepted)
 {
-    struct Bound {
-        int id;
-        const wchar_t* refused;
-        const wchar_t* accepted;
-        const wchar_t* prompt;
-    };
-    const wchar_t* const corner = L"Please enter a number between 30.0000 and 150.0000.";
-    const wchar_t* const notNegative =
-        L"Please enter a number between 0.0000 and 340282346638528859811704183484516925440.0000.";
-    const Bound bounds[] = {
-        {3903, L"29.9", L"30", corner},
-        {3903, L"150.1", L"150", corner},
-        {3910, L"-0.0001", L"0", notNegative},
-    };
-    for (const Bound& bound : bounds) {
-        CDefs2xPage fresh;
-        OpenSheet sheet({&fresh});
-        ui::Type(sheet.Page(), bound.id, bound.refused);
-        sheet.Press(IDOK);
-        const ui::MessageBoxSeen box = ui::WaitForBox();
-        EXPECT_EQ(bound.prompt, box.text);
-        EXPECT_EQ(LoadIcon(nullptr, IDI_EXCLAMATION), box.icon);
-        ui::Answer(box, IDOK);
-        EXPECT_TRUE(sheet.IsOpen());
-        EXPECT_EQ(ui::Control(sheet.Page(), bound.id), ui::Focus(sheet.window));
-        ui::Type(sheet.Page(), bound.id, bound.accepted);
-        sheet.Ok();
-    }
+    CheckBounds({{3903, L"29", L"30", L"30.0000", L"150.0000"},
+                 {3903, L"29.9", L"30", L"30.0000", L"150.0000"},
+                 {3903, L"151", L"150", L"30.0000", L"150.0000"},
+                 {3903, L"150.1", L"150", L"30.0000", L"150.0000"},
+                 {3910, L"-0.0001", L"0", L"0.0000", kShownUnbounded}});
 }
 
 TEST_F(Page2x, AnyRealReachesToTheLargestSinglePrecisionValue)
 {
-    OpenSheet sheet({&page});
+    OpenSheet sheet({page.get()});
     ui::Type(sheet.Page(), 3909, L"-3.4028234663852886e38");
     ui::FocusOn(sheet.Page(), 1058);
     EXPECT_FALSE(ui::IsBoxOpen());
@@ -469,7 +342,7 @@ TEST_F(Page2x, AnyRealReachesToTheLargestSinglePrecisionValue)
 
 TEST_F(Page2x, ATextThatDoesNotEvaluateIsRefusedOnLeavingTheField)
 {
-    OpenSheet sheet({&page});
+    OpenSheet sheet({page.get()});
     ui::Type(sheet.Page(), kSideRoughStep, L"radius");
     ui::FocusOn(sheet.Page(), 1058);
     const ui::MessageBoxSeen box = ui::WaitForBox();
@@ -486,7 +359,7 @@ TEST_F(Page2x, LeavingTheSideClearanceTellsTheOtherPagesItsNewValue)
 {
     SiblingSpy spy;
     spy.realCodes = {32791};
-    OpenSheet sheet({&page, &spy});
+    OpenSheet sheet({page.get(), &spy});
     ui::Type(sheet.Page(), kSideClearance, L"0.25");
     ui::FocusOn(sheet.Page(), kSideRoughStep);
     ASSERT_EQ(1u, spy.notices.size());
@@ -505,8 +378,8 @@ TEST_F(Page2x, LeavingTheSideClearanceTellsTheOtherPagesItsNewValue)
 TEST_F(Page2x, ChoosingIslandDepthsTellsTheOtherPagesTheIndex)
 {
     SiblingSpy spy;
-    page.m_contextBits = 1;
-    OpenSheet sheet({&page, &spy});
+    page->m_contextBits = 1;
+    OpenSheet sheet({page.get(), &spy});
     ui::Choose(sheet.Page(), kIslandDepths, 2);
     ui::Choose(sheet.Page(), kIslandDepths, -1);
     EXPECT_EQ((std::vector<SiblingSpy::Notice>{{32772, 2}}), spy.notices);
@@ -518,10 +391,10 @@ TEST_F(Page2x, ChoosingIslandDepthsTellsTheOtherPagesTheIndex)
 TEST_F(Page2x, NoOtherControlTellsTheOtherPagesAnything)
 {
     SiblingSpy spy;
-    OpenSheet sheet({&page, &spy});
-    for (const WholeControl& row : kLists)
+    OpenSheet sheet({page.get(), &spy});
+    for (const auto& row : kLists)
         ui::Choose(sheet.Page(), row.id, 0);
-    for (const RealControl& row : kReals)
+    for (const auto& row : kReals)
         if (row.id != kSideClearance)
             ui::Type(sheet.Page(), row.id, L"40");
     ui::FocusOn(sheet.Page(), 1058);
@@ -581,7 +454,7 @@ TEST_F(Page2x, TheOperationDecidesWhichFeedsAndPlungesCanBeSet)
 
 TEST_F(Page2x, TheNestingDepthCanBeSetOnlyForChosenNesting)
 {
-    OpenSheet sheet({&page});
+    OpenSheet sheet({page.get()});
     EXPECT_FALSE(ui::IsEnabled(sheet.Page(), kNestingDepth));
     ui::Choose(sheet.Page(), kNestingType, 1);
     EXPECT_TRUE(ui::IsEnabled(sheet.Page(), kNestingDepth));
@@ -591,7 +464,7 @@ TEST_F(Page2x, TheNestingDepthCanBeSetOnlyForChosenNesting)
 
 TEST_F(Page2x, FilledWithUnitsAloneItHidesTheCompensationLists)
 {
-    OpenSheet sheet({&page});
+    OpenSheet sheet({page.get()});
     for (const int id : {1065, 1066, 4600, 4601})
         EXPECT_FALSE(ui::IsShown(sheet.Page(), id)) << id;
 }
@@ -623,12 +496,12 @@ TEST_F(Page2x, FilledWithTheCompensationIndexesItShowsThemAndGivesThemBack)
 
 TEST_F(Page2x, TheHostsUnitsConvertTheLiveRecordAndOnlyOneIsMillimetre)
 {
-    ui::UiThread::Get().Call([this] { page.GetData(1); });
+    ui::UiThread::Get().Call([this] { page->GetData(1); });
     EXPECT_EQ(1, GetLast2xOptions()->Units);
     EXPECT_EQ(25.0, GetLast2xOptions()->RapidPlane);
     GetLast2xOptions()->vOptions_Defaults();
     EXPECT_EQ(25.0, GetLast2xOptions()->RapidPlane);
-    ui::UiThread::Get().Call([this] { page.GetData(2); });
+    ui::UiThread::Get().Call([this] { page->GetData(2); });
     EXPECT_EQ(0, GetLast2xOptions()->Units);
     EXPECT_EQ(1.0, GetLast2xOptions()->RapidPlane);
 }
@@ -636,7 +509,7 @@ TEST_F(Page2x, TheHostsUnitsConvertTheLiveRecordAndOnlyOneIsMillimetre)
 TEST_F(Page2x, ActivatingAgainAddsNoItemsTwiceAndShowsTheDataAgain)
 {
     SiblingSpy other;
-    OpenSheet sheet({&page, &other});
+    OpenSheet sheet({page.get(), &other});
     ui::Type(sheet.Page(), kSideRoughStep, L"0.5");
     sheet.Switch(1);
     sheet.Switch(0);
@@ -650,9 +523,9 @@ TEST_F(Page2x, DefaultsByButtonShowTheBuiltInValuesAndTellTheIslandDepths)
     GetLast2xOptions()->SortType = 2;
     GetLast2xOptions()->SideRoughStep = 0.5;
     GetLast2xOptions()->DepthFirst = 0;
-    ui::UiThread::Get().Call([this] { page.GetData(0); });
+    ui::UiThread::Get().Call([this] { page->GetData(0); });
     SiblingSpy spy;
-    OpenSheet sheet({&page, &spy});
+    OpenSheet sheet({page.get(), &spy});
     ui::Click(sheet.Page(), kDefaultsButton);
     EXPECT_EQ(1, ui::Selection(sheet.Page(), 1064));
     EXPECT_EQ(L"0.8000", ui::TextOf(sheet.Page(), kSideRoughStep));
@@ -668,7 +541,7 @@ TEST_F(Page2x, TheHostsDefaultsMessageDoesTheSameAndIsAnsweredWithZero)
 {
     host.WriteDefaults("[Options2x]\r\nSideRoughStep=0.25\r\n");
     SiblingSpy spy;
-    OpenSheet sheet({&page, &spy});
+    OpenSheet sheet({page.get(), &spy});
     EXPECT_EQ(0, SendMessage(sheet.Page(), 3072, 5, 6));
     EXPECT_EQ(L"0.2500", ui::TextOf(sheet.Page(), kSideRoughStep));
     EXPECT_EQ((std::vector<SiblingSpy::Notice>{{32772, 0}}), spy.notices);
@@ -676,7 +549,7 @@ TEST_F(Page2x, TheHostsDefaultsMessageDoesTheSameAndIsAnsweredWithZero)
 
 TEST_F(Page2x, ApplyStoresAndLeavesThePageUnmodified)
 {
-    OpenSheet sheet({&page});
+    OpenSheet sheet({page.get()});
     ui::Choose(sheet.Page(), 1064, 2);
     EXPECT_TRUE(sheet.IsModified());
     sheet.Press(kApply);
@@ -687,12 +560,10 @@ TEST_F(Page2x, ApplyStoresAndLeavesThePageUnmodified)
 
 TEST_F(Page2x, EveryTopicOfItsTableIsShown)
 {
-    struct Topic {
-        int control;
-        const char* topic;
-    };
     constexpr char step[] = "pelmar-_cutctrlpopups_constant_cutter_radius_step_size.htm";
-    const Topic topics[] = {
+    page = std::make_unique<CDefs2xPage>();
+    ui::UiThread::Get().Call([this] { page->GetData(0, 0, 0); });
+    CheckTopics({
         {0, "pelmar-_options_hidd_2axis_cut_opt.htm"},
         {3902, "pelmar-_optionspopups_hidc_2axisopts_maxfeed.htm"},
         {1050, step},
@@ -730,28 +601,17 @@ TEST_F(Page2x, EveryTopicOfItsTableIsShown)
         {4594, "pelmar-_optionspopups_align_to_deepest_plunge.htm"},
         {4617, "pelmar-_cutctrlpopups_threadmill_feed_between.htm"},
         {4619, "pelmar-_options_hidd_2axis_cut_opt.htm"},
-    };
-    CDefs2xPage fresh;
-    ui::UiThread::Get().Call([&] { fresh.GetData(0, 0, 0); });
-    OpenSheet sheet({&fresh});
-    for (const Topic& row : topics)
-        EXPECT_EQ(row.topic, TopicShownFor(sheet.Page(), row.control)) << row.control;
+    });
 }
 
 TEST_F(Page2x, TheTopicOfTheGaugeLengthIsKeptForPagesThatHaveTheButton)
 {
-    // No control of the template bears the id; one that is put there shows that the table still knows it.
-    OpenSheet sheet({&page});
-    ui::UiThread::Get().Call([&] {
-        CreateWindow(L"Button", L"", WS_CHILD | WS_VISIBLE, 0, 0, 8, 8, sheet.Page(),
-                     reinterpret_cast<HMENU>(INT_PTR{4592}), nullptr, nullptr);
-    });
-    EXPECT_EQ("pelmar-_optionspopups_toollib_gauge_length.htm", TopicShownFor(sheet.Page(), 4592));
+    CheckTopicOfMissingControl(4592, "pelmar-_optionspopups_toollib_gauge_length.htm");
 }
 
 TEST_F(Page2x, ControlsThatAreMissingAreSkipped)
 {
-    OpenSheet sheet({&page});
+    OpenSheet sheet({page.get()});
     ui::UiThread::Get().Call([&] {
         for (const int id : {3905, 1064, 4590, 3911, 1057})
             DestroyWindow(ui::Control(sheet.Page(), id));
@@ -766,11 +626,10 @@ TEST_F(Page2x, ControlsThatAreMissingAreSkipped)
 
 TEST_F(Page2x, ItsLayoutClipsAndOverlapsNothing)
 {
-    CDefs2xPage fresh;
-    ui::UiThread::Get().Call([&] { fresh.GetData(0, 0, 0); });
-    fresh.m_contextBits = 1;
-    OpenSheet sheet({&fresh});
-    EXPECT_EQ(std::vector<std::string>{}, LayoutFaults(sheet.Page()));
+    page = std::make_unique<CDefs2xPage>();
+    ui::UiThread::Get().Call([this] { page->GetData(0, 0, 0); });
+    page->m_contextBits = 1;
+    CheckLayout();
 }
 
 TEST_F(Page2x, CanBeCreatedDynamically)

@@ -289,7 +289,21 @@ void PointAt(HWND window)
 {
     RECT rect;
     GetWindowRect(window, &rect);
-    SetCursorPos((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+    const POINT middle{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+    // The display reports the pointer's earlier moves late, so that it may jump back once.
+    const auto isThere = [&] {
+        POINT point;
+        GetCursorPos(&point);
+        return point.x == middle.x && point.y == middle.y;
+    };
+    const bool settled = WaitUntil([&] {
+        SetCursorPos(middle.x, middle.y);
+        Settle(window);
+        Settle(window);
+        return isThere();
+    });
+    if (!settled)
+        throw std::runtime_error("the pointer does not stay where it is put");
 }
 
 } // namespace ui
