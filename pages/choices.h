@@ -8,3 +8,6 @@
 constexpr UINT kLengthTypes[] = {IDS_CONSTANT, IDS_TOOL_RADIUS};
 constexpr UINT kCornerTypes[] = {IDS_ARC, IDS_LINE};
 constexpr UINT kFeedsBetween[] = {IDS_FEED_DIRECT, IDS_FEED_CUTTING, IDS_FEED_RAPID};
+constexpr UINT kCuttingDirections[] = {IDS_CONVENTIONAL, IDS_CLIMB};
+/// Stored value of the first one.
+constexpr int kFirstCuttingDirection = 1;

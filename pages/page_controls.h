@@ -47,6 +47,13 @@ template <class Record> struct ExchangeRow {
     constexpr ExchangeRow PlainEdit() const { return With(false); }
     /// A whole number in an edit that knows "=".
     constexpr ExchangeRow ExpressionEdit() const { return With(true); }
+    /// The range is that of another field, which is checked in place of this one.
+    constexpr ExchangeRow ChecksInstead(double Record::*other) const
+    {
+        ExchangeRow row = *this;
+        row.checked = other;
+        return row;
+    }
 
     bool IsReal() const { return std::holds_alternative<double Record::*>(field); }
     double& RealOf(Record& record) const { return record.*std::get<double Record::*>(field); }
@@ -55,6 +62,7 @@ template <class Record> struct ExchangeRow {
     int id;
     std::variant<int Record::*, double Record::*> field;
     std::optional<Range> range;
+    double Record::*checked = nullptr; ///< in place of the own field
     Binding binding = Binding::Text;
     bool isExpressionEdit = false;
 
@@ -130,7 +138,7 @@ template <class Record> void ExchangeControl(CDataExchange* exchange, Record& re
         double value = row.RealOf(record);
         DDX_Expression(exchange, row.id, value);
         if (row.range)
-            DDV_ExpressionRange(exchange, value, row.range->low, row.range->high);
+            DDV_ExpressionRange(exchange, row.checked ? record.*row.checked : value, row.range->low, row.range->high);
         row.RealOf(record) = value;
         return;
     }
