@@ -12,8 +12,7 @@ class PELMAR_API CSlotMillDefsInfo {
 public:
     int Units = 0;              ///< 0 inch, 1 millimetre
     double DefSlotDepth = 1.25; ///< 0 or more, scaled with the units whatever its type is
-    /// What the picked contour is: 0 top centre, 1 top inside, 2 bottom inside, 3 bottom centre, 4 bottom outside, 5 top
-    /// outside
+    /// 0 top centre, 1 top inside, 2 bottom inside, 3 bottom centre, 4 bottom outside, 5 top outside
     int DefSlotGeomType = 0;
     int DefSlotDepthType = 1;    ///< 0 constant, 1 tool radius
     double RapidPlane = 1.0;     ///< clearance plane, a length, 0 or more
