@@ -10,4 +10,5 @@
 #include "frame/settings_locations.h"
 #include "frame/settings_values.h"
 #include "pages/milling_2axis.h"
+#include "pages/milling_3axis.h"
 #include "pages/option_page.h"

@@ -8,3 +8,5 @@
 constexpr UINT kLengthTypes[] = {IDS_CONSTANT, IDS_TOOL_RADIUS};
 constexpr UINT kCornerTypes[] = {IDS_ARC, IDS_LINE};
 constexpr UINT kFeedsBetween[] = {IDS_FEED_DIRECT, IDS_FEED_CUTTING, IDS_FEED_RAPID};
+constexpr UINT kPlainSorts[] = {IDS_SORT_NONE, IDS_SORT_AUTOMATIC};
+constexpr UINT kSideStepModes[] = {IDS_SIDE_STEP_STRAIGHT, IDS_SIDE_STEP_ALONG_EDGE};

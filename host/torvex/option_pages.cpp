@@ -22,6 +22,7 @@ std::span<const OptionPage> OptionPages()
     // A further page is a further row.
     static const OptionPage pages[] = {
         Row<CDefs2xPage>(GetLast2xOptions(), &C2AxisOptionsInfo::v2xOptionsCheckUnits),
+        Row<CDefs3xPage>(GetLast3xOptions(), &C3AxisOptionsInfo::v3xOptionsCheckUnits),
     };
     return pages;
 }
