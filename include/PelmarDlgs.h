@@ -12,3 +12,4 @@
 #include "pages/milling_2axis.h"
 #include "pages/milling_3axis.h"
 #include "pages/option_page.h"
+#include "pages/wire_edm.h"

@@ -23,6 +23,7 @@ std::span<const OptionPage> OptionPages()
     static const OptionPage pages[] = {
         Row<CDefs2xPage>(GetLast2xOptions(), &C2AxisOptionsInfo::v2xOptionsCheckUnits),
         Row<CDefs3xPage>(GetLast3xOptions(), &C3AxisOptionsInfo::v3xOptionsCheckUnits),
+        Row<CDefsEDMPage>(GetLastEDMOptions(), &CEDMOptionsInfo::vEDMOptionsCheckUnits),
     };
     return pages;
 }
