@@ -1,6 +1,8 @@
 // The tool library, a DLL of the host's that knows its tools and materials.
 #pragma once
 
+#include "frame/export.h"
+
 /// Its entry points, in the order in which they are looked up.
 enum class ToolEntryPoint {
     GetMillTool,
@@ -45,4 +47,4 @@ void UnloadToolLibrary();
 
 /// Whether materials may be chosen from the tool library and gauge lengths taken from it. Off as long as nobody
 /// switches it on: the module itself never does.
-bool& MaterialLibrarySwitch();
+PELMAR_API bool& MaterialLibrarySwitch();

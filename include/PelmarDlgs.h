@@ -13,6 +13,8 @@
 #include "pages/face_mill.h"
 #include "pages/groove_mill.h"
 #include "pages/milling_2axis.h"
+#include "pages/milling_3axis.h"
 #include "pages/option_page.h"
 #include "pages/round_mill.h"
 #include "pages/slot_mill.h"
+#include "pages/wire_edm.h"

@@ -11,3 +11,5 @@ constexpr UINT kFeedsBetween[] = {IDS_FEED_DIRECT, IDS_FEED_CUTTING, IDS_FEED_RA
 constexpr UINT kCuttingDirections[] = {IDS_CONVENTIONAL, IDS_CLIMB};
 /// Stored value of the first one.
 constexpr int kFirstCuttingDirection = 1;
+constexpr UINT kPlainSorts[] = {IDS_SORT_NONE, IDS_SORT_AUTOMATIC};
+constexpr UINT kSideStepModes[] = {IDS_SIDE_STEP_STRAIGHT, IDS_SIDE_STEP_ALONG_EDGE};

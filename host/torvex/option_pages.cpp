@@ -28,6 +28,8 @@ std::span<const OptionPage> OptionPages()
     // A further page is a further row.
     static const OptionPage pages[] = {
         Row<CDefs2xPage>(GetLast2xOptions(), &C2AxisOptionsInfo::v2xOptionsCheckUnits),
+        Row<CDefs3xPage>(GetLast3xOptions(), &C3AxisOptionsInfo::v3xOptionsCheckUnits),
+        Row<CDefsEDMPage>(GetLastEDMOptions(), &CEDMOptionsInfo::vEDMOptionsCheckUnits),
         Row<CDefsFMPage>(GetLastFaceMillDefsInfo(), &CFaceMillDefsInfo::FaceMillDefsCheckUnits,
                          &CFaceMillDefsInfo::vFaceMillDefs_Restore, &CFaceMillDefsInfo::vFaceMillDefs_Save),
         Row<CDefsCMPage>(GetLastChamferMillDefsInfo(), &CChamferMillDefsInfo::ChamferMillDefsCheckUnits,
