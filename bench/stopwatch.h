@@ -1,0 +1,38 @@
+// Compares the times of several ways to do one thing, in one run: they take turns, and the best round of each counts,
+// so that what else the machine does falls on all of them or drops out.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <limits>
+
+namespace bench {
+
+/// The best time of each piece of work, in seconds for one call.
+template <class... Works> std::array<double, sizeof...(Works)> BestTimes(int rounds, int calls, Works... works)
+{
+    std::array<double, sizeof...(Works)> best;
+    best.fill(std::numeric_limits<double>::infinity());
+    const auto timeOf = [calls](auto& work) {
+        const auto start = std::chrono::steady_clock::now();
+        for (int call = 0; call < calls; ++call)
+            work();
+        const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+        return time.count() / calls;
+    };
+    for (int round = 0; round < rounds; ++round) {
+        size_t index = 0;
+        ((best[index] = std::min(best[index], timeOf(works)), ++index), ...);
+    }
+    return best;
+}
+
+/// One line of the table: what is compared, the ratio, and the bound that is aimed at.
+inline void PrintRatio(const char* what, double ratio, const char* aim)
+{
+    std::printf("%-60s %8.2f   %s\n", what, ratio, aim);
+}
+
+} // namespace bench
