@@ -186,8 +186,10 @@ template <class Record> void FillChoices(const CWnd& page, std::span<const Choic
 template <class Record>
 void ShowChoices(const CWnd& page, const Record& record, std::span<const ChoiceRow<Record>> rows)
 {
-    for (const ChoiceRow<Record>& row : rows)
-        SelectIndex(page, row.id, record.*row.field - row.firstValue);
+    for (const ChoiceRow<Record>& row : rows) {
+        const int value = record.*row.field;
+        SelectIndex(page, row.id, value < row.firstValue ? -1 : value - row.firstValue);
+    }
 }
 
 template <class Record> void ShowChecks(const CWnd& page, const Record& record, std::span<const CheckRow<Record>> rows)

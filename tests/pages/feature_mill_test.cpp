@@ -1,6 +1,8 @@
 // What holds for all five operations of feature milling. What one of them does in its own way has a test of its own.
 
 #include <functional>
+#include <limits>
+#include <optional>
 
 #include "pages/feature_mills.h"
 
@@ -250,6 +252,41 @@ TYPED_TEST(FeatureMillRecord, WholeNumbersAreTakenAsThePlatformReadsThem)
     CheckWholeNumbers(this->host, TypeParam::fresh, TypeParam::restore, TypeParam::save, TypeParam::readElsewhere);
 }
 
+TYPED_TEST(FeatureMillRecord, WhateverAKeyHoldsIsReadAsItsKindOfFieldIs)
+{
+    struct Hostile {
+        std::string text;
+        std::optional<double> real; ///< nothing where a real keeps its value
+    };
+    const Hostile hostiles[] = {{"", {}},      {"   ", {}},  {std::string(10000, 'x'), {}}, {"nan", {}},
+                                {"1e400", {}}, {"-1", -1.0}, {"2147483648", 2147483648.0}};
+    const typename TypeParam::Record builtIn;
+    for (const Hostile& hostile : hostiles) {
+        std::string file;
+        for (const std::string& section : {std::string(TypeParam::section), std::string("Options2x")}) {
+            file += "[" + section + "]\r\n";
+            for (const std::string& key : KeysOf(TypeParam::fresh))
+                file += key + "=" + hostile.text + "\r\n";
+        }
+        this->host.WriteSettings(file);
+        this->options = {};
+        this->Restore();
+        for (const auto& field : TypeParam::fields) {
+            if (field.whole) {
+                const UINT read = GetPrivateProfileIntA(TypeParam::section, field.key, builtIn.*field.whole,
+                                                        this->host.settings.c_str());
+                EXPECT_EQ(static_cast<int>(read), this->options.*field.whole) << field.key;
+            } else {
+                const double kept = static_cast<float>(builtIn.*field.real);
+                EXPECT_EQ(hostile.real.value_or(kept), this->options.*field.real) << field.key;
+            }
+        }
+        this->host.WriteDefaults(file);
+        this->options.Defaults();
+        EXPECT_EQ(0, this->options.Units);
+    }
+}
+
 TYPED_TEST(FeatureMillRecord, TheLiveInstanceIsAlwaysTheSame)
 {
     EXPECT_NE(nullptr, TypeParam::Live());
@@ -341,6 +378,20 @@ TYPED_TEST(FeatureMillPage, EveryListKeepsTheChosenItemAndDoesNotMarkThePageModi
 TYPED_TEST(FeatureMillPage, AListWithoutASelectionOrWithAValueThatItDoesNotHoldKeepsTheField)
 {
     this->CheckListsWithoutSelection(TypeParam::lists);
+}
+
+TYPED_TEST(FeatureMillPage, TheSmallestWholeNumberInAListSelectsNothingAndIsKept)
+{
+    typename TypeParam::Record odd;
+    for (const auto& list : TypeParam::lists)
+        odd.*list.field = std::numeric_limits<int>::min();
+    const auto shown = this->Fresh(odd);
+    OpenSheet sheet({shown.get()});
+    for (const auto& list : TypeParam::lists)
+        EXPECT_EQ(-1, ui::Selection(sheet.Page(), list.id)) << list.id;
+    sheet.Ok();
+    for (const auto& list : TypeParam::lists)
+        EXPECT_EQ(std::numeric_limits<int>::min(), TypeParam::Live()->*list.field) << list.id;
 }
 
 TYPED_TEST(FeatureMillPage, ConventionalAndClimbAreStoredAsOneAndTwo)
