@@ -118,8 +118,8 @@ bool StoreSelection(const CWnd& page, int id, int& value);
 /// The same, and true only when the selection is another value than before.
 bool StoreNewSelection(const CWnd& page, int id, int& value);
 void ShowCheck(const CWnd& page, int id, bool checked);
-/// Puts 1 into `value` when the box is checked, else `unchecked`.
-void StoreCheck(const CWnd& page, int id, int& value, int unchecked = 0);
+/// Puts `checked` into `value` when the box is checked, else `unchecked`.
+void StoreCheck(const CWnd& page, int id, int& value, int unchecked = 0, int checked = 1);
 
 /// Gouge check of a check box: 1 is on, 2 is off, and whatever a file holds that is not 2 shows as on.
 constexpr int kGougeCheckOff = 2;
@@ -212,6 +212,27 @@ template <class Record>
 void TakeChoice(CPropertyPage& page, Record& record, std::span<const ChoiceRow<Record>> rows, int id)
 {
     StoreChoice(page, record, rows, id);
+    page.SetModified();
+}
+
+/// The user has chosen from a list that other pages follow: keeps the choice, if there is one, tells them the index and
+/// marks the page modified.
+template <class Record>
+void ShareChoice(CPropertyPage& page, Record& record, std::span<const ChoiceRow<Record>> rows, int id, WPARAM code)
+{
+    int& value = record.*RowOf(rows, id).field;
+    if (StoreSelection(page, id, value))
+        NotifySiblings(page, code, value);
+    page.SetModified();
+}
+
+/// The same, but a choice that is the old one is not told.
+template <class Record>
+void ShareNewChoice(CPropertyPage& page, Record& record, std::span<const ChoiceRow<Record>> rows, int id, WPARAM code)
+{
+    int& value = record.*RowOf(rows, id).field;
+    if (StoreNewSelection(page, id, value))
+        NotifySiblings(page, code, value);
     page.SetModified();
 }
 

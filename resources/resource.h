@@ -251,7 +251,7 @@
 #define IDC_FS_POCKET_CUT_MODE 1058
 #define IDC_FS_LEAD_ANGLE_TOLERANCE 3907
 #define IDC_FS_GOUGE_CHECK 4589
-// Not in the template: a host's own template may hold them.
+// The page looks for these too, but its template does not hold them.
 #define IDC_FS_DEPTH_FIRST 1056
 #define IDC_FS_PLUNGE_WARNINGS 1059
 #define IDC_FS_ISLAND_PLUNGES 1061

@@ -40,6 +40,9 @@ std::span<const OptionPage> OptionPages()
                          &CGrooveMillDefsInfo::vGrooveMillDefs_Restore, &CGrooveMillDefsInfo::vGrooveMillDefs_Save),
         Row<CDefsSlotMillPage>(GetLastSlotMillDefsInfo(), &CSlotMillDefsInfo::SlotMillDefsCheckUnits,
                                &CSlotMillDefsInfo::vSlotMillDefs_Restore, &CSlotMillDefsInfo::vSlotMillDefs_Save),
+        Row<CDefsZRoughPage>(GetLastZRoughOptions(), &CZRoughOptionsInfo::vZRoughOptionsCheckUnits),
+        Row<CDefsZFinishPage>(GetLastZFinishOptions(), &CZFinishOptionsInfo::vZFinishOptionsCheckUnits),
+        Row<CDefsFlatSurfacePage>(GetLastFlatSurfaceOptions(), &CFlatSurfaceOptionsInfo::vFlatSurfaceOptionsCheckUnits),
     };
     return pages;
 }
