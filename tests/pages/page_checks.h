@@ -54,6 +54,12 @@ struct Refusal {
     const wchar_t* prompt;
 };
 
+/// What the page tells its siblings of a control.
+struct ToldOf {
+    int id;
+    WPARAM code;
+};
+
 struct Topic {
     int control; ///< 0 asks about the page
     const char* topic;
@@ -154,6 +160,86 @@ protected:
             sheet.Ok();
             EXPECT_EQ(left, Live()->*row.field) << row.id;
         }
+    }
+
+    /// A handler keeps what is chosen before any exchange does, and keeps the old choice where nothing is selected.
+    void CheckChoicesHeldAtOnce(const std::vector<ListControl<Record>>& rows)
+    {
+        OpenSheet sheet({page.get()});
+        for (const ListControl<Record>& row : rows)
+            for (const int index : {1, 0}) {
+                ui::Choose(sheet.Page(), row.id, index);
+                EXPECT_EQ(index + row.firstValue, Held(*page).*row.field) << row.id;
+                ui::Choose(sheet.Page(), row.id, -1);
+                EXPECT_TRUE(sheet.IsModified()) << row.id;
+                EXPECT_EQ(index + row.firstValue, Held(*page).*row.field) << row.id;
+            }
+        sheet.Cancel();
+    }
+
+    void CheckEditsMark(const std::vector<int>& ids)
+    {
+        for (const int id : ids) {
+            const std::unique_ptr<PageClass> shown = Fresh();
+            OpenSheet sheet({shown.get()});
+            EXPECT_FALSE(sheet.IsModified()) << id;
+            ui::Type(sheet.Page(), id, L"40");
+            EXPECT_TRUE(sheet.IsModified()) << id;
+        }
+    }
+
+    /// Leaving the edit tells the address of the new value; leaving it with a text that is refused tells nothing.
+    void CheckRealNotices(const std::vector<ToldOf>& rows)
+    {
+        for (const ToldOf& row : rows) {
+            SiblingSpy spy;
+            spy.realCodes = {row.code};
+            const std::unique_ptr<PageClass> shown = Fresh();
+            OpenSheet sheet({shown.get(), &spy});
+            ui::Type(sheet.Page(), row.id, L"1/4");
+            ui::FocusOn(sheet.Page(), OtherControl(row.id));
+            ASSERT_EQ(1u, spy.notices.size()) << row.id;
+            EXPECT_EQ(row.code, spy.notices[0].code) << row.id;
+            EXPECT_EQ(std::vector<double>{0.25}, spy.reals) << row.id;
+
+            ui::Type(sheet.Page(), row.id, L"(");
+            ui::FocusOn(sheet.Page(), OtherControl(row.id));
+            ui::Answer(ui::WaitForBox(), IDOK);
+            EXPECT_EQ(1u, spy.notices.size()) << row.id;
+            ui::Type(sheet.Page(), row.id, L"1");
+        }
+    }
+
+    /// Every choice tells the index, the old one again too; no selection tells nothing.
+    void CheckChoiceNotices(const std::vector<ToldOf>& rows)
+    {
+        for (const ToldOf& row : rows)
+            CheckNotices(row, {{row.code, 0}, {row.code, 1}, {row.code, 1}});
+    }
+
+    /// A choice tells the index where it is another than before. The lists' built-in choice is 1.
+    void CheckTypeNotices(const std::vector<ToldOf>& rows)
+    {
+        for (const ToldOf& row : rows)
+            CheckNotices(row, {{row.code, 0}, {row.code, 1}});
+    }
+
+    /// What is told when 0, 1, nothing and 1 again are chosen, and that all of it marks the page modified.
+    void CheckNotices(const ToldOf& row, const std::vector<SiblingSpy::Notice>& expected)
+    {
+        for (const int index : {0, 1, -1}) {
+            SiblingSpy spy;
+            const std::unique_ptr<PageClass> shown = Fresh();
+            OpenSheet sheet({shown.get(), &spy});
+            ui::Choose(sheet.Page(), row.id, index);
+            EXPECT_TRUE(sheet.IsModified()) << row.id;
+        }
+        SiblingSpy spy;
+        const std::unique_ptr<PageClass> shown = Fresh();
+        OpenSheet sheet({shown.get(), &spy});
+        for (const int index : {0, 1, -1, 1})
+            ui::Choose(sheet.Page(), row.id, index);
+        EXPECT_EQ(expected, spy.notices) << row.id;
     }
 
     void CheckBoxes(const std::vector<BoxControl<Record>>& rows, Marking marking = Marking::Modified)

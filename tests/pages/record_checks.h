@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -124,5 +125,24 @@ void CheckConversion(const RecordOperations<Record>& operations, const std::vect
         record.Units = 7;
         (record.*operations.convert)(1);
         EXPECT_EQ(0.8 * 0.04, record.*scaled.field) << "from any code but 0 it is the factor back to inch";
+    }
+}
+
+/// What becomes of values that a file holds for one key, from the settings file and from the defaults file.
+template <class Record>
+void CheckLimit(const HostFolder& host, const RecordOperations<Record>& operations, const std::string& key,
+                const std::vector<std::pair<std::string, int>>& storedAndTaken, int Record::*field)
+{
+    for (const auto& [stored, taken] : storedAndTaken) {
+        const std::string file = WithValue(operations.fresh, key, stored);
+        host.WriteSettings(file);
+        Record restored;
+        (restored.*operations.restore)();
+        EXPECT_EQ(taken, restored.*field) << stored;
+
+        host.WriteDefaults(file);
+        Record defaulted;
+        (defaulted.*operations.defaults)();
+        EXPECT_EQ(taken, defaulted.*field) << stored;
     }
 }
