@@ -174,11 +174,6 @@ void CDefsFlatSurfacePage::TakeChoice(int id)
     ::TakeChoice<Record>(*this, m_options, kChoices, id);
 }
 
-void CDefsFlatSurfacePage::TakeCutMode(int id)
-{
-    ShareChoice<Record>(*this, m_options, kChoices, id, kCutModeChosen);
-}
-
 void CDefsFlatSurfacePage::OnChangeFSOptions()
 {
     SetModified();
@@ -212,7 +207,7 @@ void CDefsFlatSurfacePage::OnSelCornerClearType()
 
 void CDefsFlatSurfacePage::OnSelSideStepSize()
 {
-    ShareNewChoice<Record>(*this, m_options, kChoices, IDC_FS_SIDE_STEP_TYPE, kSideStepTypeChosen);
+    ShareNewSelection(*this, IDC_FS_SIDE_STEP_TYPE, m_options.SideStepType, kSideStepTypeChosen);
 }
 
 void CDefsFlatSurfacePage::OnSelFeedBetweenRate()
@@ -222,12 +217,12 @@ void CDefsFlatSurfacePage::OnSelFeedBetweenRate()
 
 void CDefsFlatSurfacePage::OnSelMaterialCutMode()
 {
-    TakeCutMode(IDC_FS_MATERIAL_CUT_MODE);
+    ShareSelection(*this, IDC_FS_MATERIAL_CUT_MODE, m_options.MaterialCutMode, kCutModeChosen);
 }
 
 void CDefsFlatSurfacePage::OnSelPocketCutMode()
 {
-    TakeCutMode(IDC_FS_POCKET_CUT_MODE);
+    ShareSelection(*this, IDC_FS_POCKET_CUT_MODE, m_options.PocketCutMode, kCutModeChosen);
 }
 
 void CDefsFlatSurfacePage::OnRestoreDefaults()

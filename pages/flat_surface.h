@@ -80,7 +80,6 @@ protected:
 private:
     bool LeaveEdit(int id);
     void TakeChoice(int id);
-    void TakeCutMode(int id);
 
     int m_firstActivation = 1;
     CExpEqEdit m_edits[3];

@@ -93,3 +93,17 @@ void NotifySiblings(CPropertyPage& page, WPARAM code, const double& value)
 {
     page.QuerySiblings(code, reinterpret_cast<LPARAM>(&value));
 }
+
+void ShareSelection(CPropertyPage& page, int id, int& value, WPARAM code)
+{
+    if (StoreSelection(page, id, value))
+        NotifySiblings(page, code, value);
+    page.SetModified();
+}
+
+void ShareNewSelection(CPropertyPage& page, int id, int& value, WPARAM code)
+{
+    if (StoreNewSelection(page, id, value))
+        NotifySiblings(page, code, value);
+    page.SetModified();
+}

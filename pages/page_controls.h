@@ -129,6 +129,12 @@ void ExchangeOnOff(CDataExchange* exchange, int id, int& value);
 void NotifySiblings(CPropertyPage& page, WPARAM code, int index);
 void NotifySiblings(CPropertyPage& page, WPARAM code, const double& value);
 
+/// The user has chosen from a list that other pages follow: keeps the choice, if there is one, tells them the index and
+/// marks the page modified.
+void ShareSelection(CPropertyPage& page, int id, int& value, WPARAM code);
+/// The same, but a choice that is the old one is not told.
+void ShareNewSelection(CPropertyPage& page, int id, int& value, WPARAM code);
+
 // ---- tables ----
 
 template <class Record> void ExchangeControl(CDataExchange* exchange, Record& record, const ExchangeRow<Record>& row)
@@ -212,27 +218,6 @@ template <class Record>
 void TakeChoice(CPropertyPage& page, Record& record, std::span<const ChoiceRow<Record>> rows, int id)
 {
     StoreChoice(page, record, rows, id);
-    page.SetModified();
-}
-
-/// The user has chosen from a list that other pages follow: keeps the choice, if there is one, tells them the index and
-/// marks the page modified.
-template <class Record>
-void ShareChoice(CPropertyPage& page, Record& record, std::span<const ChoiceRow<Record>> rows, int id, WPARAM code)
-{
-    int& value = record.*RowOf(rows, id).field;
-    if (StoreSelection(page, id, value))
-        NotifySiblings(page, code, value);
-    page.SetModified();
-}
-
-/// The same, but a choice that is the old one is not told.
-template <class Record>
-void ShareNewChoice(CPropertyPage& page, Record& record, std::span<const ChoiceRow<Record>> rows, int id, WPARAM code)
-{
-    int& value = record.*RowOf(rows, id).field;
-    if (StoreNewSelection(page, id, value))
-        NotifySiblings(page, code, value);
     page.SetModified();
 }
 

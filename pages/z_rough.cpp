@@ -218,16 +218,6 @@ void CDefsZRoughPage::TakeChoice(int id)
     ::TakeChoice<Record>(*this, m_options, kChoices, id);
 }
 
-void CDefsZRoughPage::TakeStepType(int id, WPARAM code)
-{
-    ShareNewChoice<Record>(*this, m_options, kChoices, id, code);
-}
-
-void CDefsZRoughPage::TakeCutMode(int id)
-{
-    ShareChoice<Record>(*this, m_options, kChoices, id, kCutModeChosen);
-}
-
 void CDefsZRoughPage::TakeCheck(int id)
 {
     ::TakeCheck<Record>(*this, m_options, kChecks, id);
@@ -278,12 +268,12 @@ void CDefsZRoughPage::OnSelCornerClearType()
 
 void CDefsZRoughPage::OnSelSideStepSize()
 {
-    TakeStepType(IDC_ZR_SIDE_ROUGH_STEP_TYPE, kSideRoughStepTypeChosen);
+    ShareNewSelection(*this, IDC_ZR_SIDE_ROUGH_STEP_TYPE, m_options.SideRoughStepType, kSideRoughStepTypeChosen);
 }
 
 void CDefsZRoughPage::OnSelDepthStepSize()
 {
-    TakeStepType(IDC_ZR_DEPTH_ROUGH_STEP_TYPE, kDepthRoughStepTypeChosen);
+    ShareNewSelection(*this, IDC_ZR_DEPTH_ROUGH_STEP_TYPE, m_options.DepthRoughStepType, kDepthRoughStepTypeChosen);
 }
 
 void CDefsZRoughPage::OnSelCutterCompTop()
@@ -303,12 +293,12 @@ void CDefsZRoughPage::OnSelDepthFirst()
 
 void CDefsZRoughPage::OnSelMaterialCutMode()
 {
-    TakeCutMode(IDC_ZR_MATERIAL_CUT_MODE);
+    ShareSelection(*this, IDC_ZR_MATERIAL_CUT_MODE, m_options.MaterialCutMode, kCutModeChosen);
 }
 
 void CDefsZRoughPage::OnSelPocketCutMode()
 {
-    TakeCutMode(IDC_ZR_POCKET_CUT_MODE);
+    ShareSelection(*this, IDC_ZR_POCKET_CUT_MODE, m_options.PocketCutMode, kCutModeChosen);
 }
 
 void CDefsZRoughPage::OnSelPlungeWarnings()
@@ -318,7 +308,7 @@ void CDefsZRoughPage::OnSelPlungeWarnings()
 
 void CDefsZRoughPage::OnSelSideClearType()
 {
-    TakeStepType(IDC_ZR_SIDE_CLEARANCE_TYPE, kSideClearanceTypeChosen);
+    ShareNewSelection(*this, IDC_ZR_SIDE_CLEARANCE_TYPE, m_options.SideClearanceType, kSideClearanceTypeChosen);
 }
 
 void CDefsZRoughPage::OnSelIslandPlunges()

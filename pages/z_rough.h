@@ -92,8 +92,6 @@ protected:
 private:
     bool LeaveEdit(int id);
     void TakeChoice(int id);
-    void TakeStepType(int id, WPARAM code);
-    void TakeCutMode(int id);
     void TakeCheck(int id);
 
     int m_firstActivation = 1;
