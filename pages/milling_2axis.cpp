@@ -427,9 +427,7 @@ void CDefs2xPage::OnSelDepthFinishStepType()
 
 void CDefs2xPage::OnSelPathIslandDepthType()
 {
-    if (StoreSelection(*this, IDC_2X_PATH_ISLAND_DEPTHS, m_options.PathIslandDepths))
-        NotifySiblings(*this, kIslandDepthsChosen, m_options.PathIslandDepths);
-    SetModified();
+    ShareSelection(*this, IDC_2X_PATH_ISLAND_DEPTHS, m_options.PathIslandDepths, kIslandDepthsChosen);
 }
 
 void CDefs2xPage::OnSelGougeCheckType()

@@ -70,10 +70,10 @@ void ShowCheck(const CWnd& page, int id, bool checked)
         SendMessage(box, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
 }
 
-void StoreCheck(const CWnd& page, int id, int& value, int unchecked)
+void StoreCheck(const CWnd& page, int id, int& value, int unchecked, int checked)
 {
     if (const HWND box = ControlOf(page, id))
-        value = SendMessage(box, BM_GETCHECK, 0, 0) == BST_CHECKED ? 1 : unchecked;
+        value = SendMessage(box, BM_GETCHECK, 0, 0) == BST_CHECKED ? checked : unchecked;
 }
 
 void ExchangeOnOff(CDataExchange* exchange, int id, int& value)
@@ -92,4 +92,18 @@ void NotifySiblings(CPropertyPage& page, WPARAM code, int index)
 void NotifySiblings(CPropertyPage& page, WPARAM code, const double& value)
 {
     page.QuerySiblings(code, reinterpret_cast<LPARAM>(&value));
+}
+
+void ShareSelection(CPropertyPage& page, int id, int& value, WPARAM code)
+{
+    if (StoreSelection(page, id, value))
+        NotifySiblings(page, code, value);
+    page.SetModified();
+}
+
+void ShareNewSelection(CPropertyPage& page, int id, int& value, WPARAM code)
+{
+    if (StoreNewSelection(page, id, value))
+        NotifySiblings(page, code, value);
+    page.SetModified();
 }

@@ -118,8 +118,8 @@ bool StoreSelection(const CWnd& page, int id, int& value);
 /// The same, and true only when the selection is another value than before.
 bool StoreNewSelection(const CWnd& page, int id, int& value);
 void ShowCheck(const CWnd& page, int id, bool checked);
-/// Puts 1 into `value` when the box is checked, else `unchecked`.
-void StoreCheck(const CWnd& page, int id, int& value, int unchecked = 0);
+/// Puts `checked` into `value` when the box is checked, else `unchecked`.
+void StoreCheck(const CWnd& page, int id, int& value, int unchecked = 0, int checked = 1);
 
 /// Gouge check of a check box: 1 is on, 2 is off, and whatever a file holds that is not 2 shows as on.
 constexpr int kGougeCheckOff = 2;
@@ -128,6 +128,12 @@ void ExchangeOnOff(CDataExchange* exchange, int id, int& value);
 /// Tells the other pages of the sheet of a change: the new index, or the address of the changed real.
 void NotifySiblings(CPropertyPage& page, WPARAM code, int index);
 void NotifySiblings(CPropertyPage& page, WPARAM code, const double& value);
+
+/// The user has chosen from a list that other pages follow: keeps the choice, if there is one, tells them the index and
+/// marks the page modified.
+void ShareSelection(CPropertyPage& page, int id, int& value, WPARAM code);
+/// The same, but a choice that is the old one is not told.
+void ShareNewSelection(CPropertyPage& page, int id, int& value, WPARAM code);
 
 // ---- tables ----
 

@@ -100,8 +100,6 @@ void CDefsRMPage::OnKillFSideClearance()
 
 void CDefsRMPage::OnSelSideClearType()
 {
-    int& type = Options().ChoiceOf(IDC_RM_SIDE_CLEARANCE_TYPE);
-    if (StoreNewSelection(*this, IDC_RM_SIDE_CLEARANCE_TYPE, type))
-        NotifySiblings(*this, kSideClearanceTypeChosen, type);
-    SetModified();
+    ShareNewSelection(*this, IDC_RM_SIDE_CLEARANCE_TYPE, Options().ChoiceOf(IDC_RM_SIDE_CLEARANCE_TYPE),
+                      kSideClearanceTypeChosen);
 }

@@ -29,6 +29,9 @@ std::span<const OptionPage> OptionPages()
     static const OptionPage pages[] = {
         Row<CDefs2xPage>(GetLast2xOptions(), &C2AxisOptionsInfo::v2xOptionsCheckUnits),
         Row<CDefs3xPage>(GetLast3xOptions(), &C3AxisOptionsInfo::v3xOptionsCheckUnits),
+        Row<CDefsZRoughPage>(GetLastZRoughOptions(), &CZRoughOptionsInfo::vZRoughOptionsCheckUnits),
+        Row<CDefsZFinishPage>(GetLastZFinishOptions(), &CZFinishOptionsInfo::vZFinishOptionsCheckUnits),
+        Row<CDefsFlatSurfacePage>(GetLastFlatSurfaceOptions(), &CFlatSurfaceOptionsInfo::vFlatSurfaceOptionsCheckUnits),
         Row<CDefsEDMPage>(GetLastEDMOptions(), &CEDMOptionsInfo::vEDMOptionsCheckUnits),
         Row<CDefsFMPage>(GetLastFaceMillDefsInfo(), &CFaceMillDefsInfo::FaceMillDefsCheckUnits,
                          &CFaceMillDefsInfo::vFaceMillDefs_Restore, &CFaceMillDefsInfo::vFaceMillDefs_Save),

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -46,6 +47,19 @@ struct Bound {
     const wchar_t* high;
 };
 
+/// A text that an edit refuses, and the prompt that says so.
+struct Refusal {
+    int id;
+    const wchar_t* refused;
+    const wchar_t* prompt;
+};
+
+/// What the page tells its siblings of a control.
+struct ToldOf {
+    int id;
+    WPARAM code;
+};
+
 struct Topic {
     int control; ///< 0 asks about the page
     const char* topic;
@@ -58,6 +72,8 @@ enum class Marking {
 
 constexpr wchar_t kShownUnbounded[] = L"340282346638528859811704183484516925440.0000";
 constexpr wchar_t kShownUnboundedBelow[] = L"-340282346638528859811704183484516925440.0000";
+constexpr wchar_t kEnterNumber[] = L"Please enter a number.";
+constexpr wchar_t kEnterInteger[] = L"Please enter an integer.";
 inline const std::vector<std::wstring> kLengthTypeItems = {L"Константа", L"Радиус инструмента"};
 inline const std::vector<std::wstring> kCornerTypeItems = {L"Дуга", L"Прямая"};
 inline const std::vector<std::wstring> kFeedItems = {L"Прямое", L"Рабочая", L"Быстрая"};
@@ -80,6 +96,13 @@ protected:
         auto made = std::make_unique<PageClass>();
         ui::UiThread::Get().Call([&] { made->GetData(units); });
         return made;
+    }
+
+    /// The record that the page holds now, which is what its OnOK stores; nothing is exchanged before.
+    Record Held(PageClass& holder)
+    {
+        ui::UiThread::Get().Call([&] { holder.OnOK(); });
+        return *Live();
     }
 
     /// A control to put the focus on when another one is to lose it.
@@ -123,8 +146,9 @@ protected:
         }
     }
 
-    /// With nothing selected, and with a stored value that a list does not hold, the field stays as it is.
-    void CheckListsWithoutSelection(const std::vector<ListControl<Record>>& rows)
+    /// With nothing selected, and with a stored value that a list does not hold, the field stays as it is; or it is
+    /// `left` with, where the page's exchange takes the lists too.
+    void CheckListsWithoutSelection(const std::vector<ListControl<Record>>& rows, int left = 99)
     {
         for (const ListControl<Record>& row : rows) {
             Record odd;
@@ -134,8 +158,88 @@ protected:
             EXPECT_EQ(-1, ui::Selection(sheet.Page(), row.id)) << row.id;
             ui::Choose(sheet.Page(), row.id, -1);
             sheet.Ok();
-            EXPECT_EQ(99, Live()->*row.field) << row.id;
+            EXPECT_EQ(left, Live()->*row.field) << row.id;
         }
+    }
+
+    /// A handler keeps what is chosen before any exchange does, and keeps the old choice where nothing is selected.
+    void CheckChoicesHeldAtOnce(const std::vector<ListControl<Record>>& rows)
+    {
+        OpenSheet sheet({page.get()});
+        for (const ListControl<Record>& row : rows)
+            for (const int index : {1, 0}) {
+                ui::Choose(sheet.Page(), row.id, index);
+                EXPECT_EQ(index + row.firstValue, Held(*page).*row.field) << row.id;
+                ui::Choose(sheet.Page(), row.id, -1);
+                EXPECT_TRUE(sheet.IsModified()) << row.id;
+                EXPECT_EQ(index + row.firstValue, Held(*page).*row.field) << row.id;
+            }
+        sheet.Cancel();
+    }
+
+    void CheckEditsMark(const std::vector<int>& ids)
+    {
+        for (const int id : ids) {
+            const std::unique_ptr<PageClass> shown = Fresh();
+            OpenSheet sheet({shown.get()});
+            EXPECT_FALSE(sheet.IsModified()) << id;
+            ui::Type(sheet.Page(), id, L"40");
+            EXPECT_TRUE(sheet.IsModified()) << id;
+        }
+    }
+
+    /// Leaving the edit tells the address of the new value; leaving it with a text that is refused tells nothing.
+    void CheckRealNotices(const std::vector<ToldOf>& rows)
+    {
+        for (const ToldOf& row : rows) {
+            SiblingSpy spy;
+            spy.realCodes = {row.code};
+            const std::unique_ptr<PageClass> shown = Fresh();
+            OpenSheet sheet({shown.get(), &spy});
+            ui::Type(sheet.Page(), row.id, L"1/4");
+            ui::FocusOn(sheet.Page(), OtherControl(row.id));
+            ASSERT_EQ(1u, spy.notices.size()) << row.id;
+            EXPECT_EQ(row.code, spy.notices[0].code) << row.id;
+            EXPECT_EQ(std::vector<double>{0.25}, spy.reals) << row.id;
+
+            ui::Type(sheet.Page(), row.id, L"(");
+            ui::FocusOn(sheet.Page(), OtherControl(row.id));
+            ui::Answer(ui::WaitForBox(), IDOK);
+            EXPECT_EQ(1u, spy.notices.size()) << row.id;
+            ui::Type(sheet.Page(), row.id, L"1");
+        }
+    }
+
+    /// Every choice tells the index, the old one again too; no selection tells nothing.
+    void CheckChoiceNotices(const std::vector<ToldOf>& rows)
+    {
+        for (const ToldOf& row : rows)
+            CheckNotices(row, {{row.code, 0}, {row.code, 1}, {row.code, 1}});
+    }
+
+    /// A choice tells the index where it is another than before. The lists' built-in choice is 1.
+    void CheckTypeNotices(const std::vector<ToldOf>& rows)
+    {
+        for (const ToldOf& row : rows)
+            CheckNotices(row, {{row.code, 0}, {row.code, 1}});
+    }
+
+    /// What is told when 0, 1, nothing and 1 again are chosen, and that all of it marks the page modified.
+    void CheckNotices(const ToldOf& row, const std::vector<SiblingSpy::Notice>& expected)
+    {
+        for (const int index : {0, 1, -1}) {
+            SiblingSpy spy;
+            const std::unique_ptr<PageClass> shown = Fresh();
+            OpenSheet sheet({shown.get(), &spy});
+            ui::Choose(sheet.Page(), row.id, index);
+            EXPECT_TRUE(sheet.IsModified()) << row.id;
+        }
+        SiblingSpy spy;
+        const std::unique_ptr<PageClass> shown = Fresh();
+        OpenSheet sheet({shown.get(), &spy});
+        for (const int index : {0, 1, -1, 1})
+            ui::Choose(sheet.Page(), row.id, index);
+        EXPECT_EQ(expected, spy.notices) << row.id;
     }
 
     void CheckBoxes(const std::vector<BoxControl<Record>>& rows, Marking marking = Marking::Modified)
@@ -170,6 +274,24 @@ protected:
             EXPECT_EQ(ui::Control(sheet.Page(), row.id), ui::Focus(sheet.window)) << row.id;
             ui::Type(sheet.Page(), row.id, row.accepted);
             sheet.Ok();
+        }
+    }
+
+    /// OK with a refused text shows its prompt, keeps the sheet open and the focus in the field.
+    void CheckRefused(const std::vector<Refusal>& rows)
+    {
+        for (const Refusal& row : rows) {
+            const std::unique_ptr<PageClass> shown = Fresh();
+            OpenSheet sheet({shown.get()});
+            ui::Type(sheet.Page(), row.id, row.refused);
+            sheet.Press(IDOK);
+            const ui::MessageBoxSeen box = ui::WaitForBox();
+            EXPECT_EQ(row.prompt, box.text) << row.id;
+            ui::Answer(box, IDOK);
+            EXPECT_TRUE(sheet.IsOpen()) << row.id;
+            EXPECT_EQ(ui::Control(sheet.Page(), row.id), ui::Focus(sheet.window)) << row.id;
+            ui::Type(sheet.Page(), row.id, L"31");
+            sheet.Cancel();
         }
     }
 
@@ -213,6 +335,50 @@ protected:
     {
         OpenSheet sheet({page.get()});
         EXPECT_EQ(std::vector<std::string>{}, LayoutFaults(sheet.Page()));
+    }
+
+    /// A page whose template holds no control at all: whatever notification comes, the record stays as it is. Returns
+    /// the live record after the page has been left and applied.
+    Record AfterEveryControlWasMissing(const Record& record)
+    {
+        struct Bare : PageClass {
+            std::vector<int> ids;
+            BOOL OnInitDialog() override
+            {
+                for (const HWND control : ui::Children(this->m_hWnd)) {
+                    ids.push_back(GetDlgCtrlID(control));
+                    DestroyWindow(control);
+                }
+                return PageClass::OnInitDialog();
+            }
+        };
+        *Live() = record;
+        Bare bare;
+        ui::UiThread::Get().Call([&] { bare.GetData(record.Units); });
+        SiblingSpy other;
+        OpenSheet sheet({&bare, &other});
+        EXPECT_TRUE(ui::Children(sheet.Page()).empty());
+        const LPARAM somebody = reinterpret_cast<LPARAM>(GetDlgItem(sheet.window, IDOK));
+        for (const int id : bare.ids)
+            for (const int code : {int{BN_CLICKED}, int{CBN_SELCHANGE}, int{EN_CHANGE}, int{EN_KILLFOCUS}})
+                SendMessage(sheet.Page(), WM_COMMAND, MAKEWPARAM(id, code), somebody);
+        sheet.Switch(1);
+        sheet.Switch(0);
+        sheet.Press(kApply);
+        const Record after = *Live();
+        EXPECT_EQ(0, SendMessage(sheet.Page(), kSetDefaultsMessage, 0, 0));
+        sheet.Ok();
+        return after;
+    }
+
+    /// Its template, its title, and that it can be made dynamically.
+    void CheckCreation(int templateId, const wchar_t* title)
+    {
+        EXPECT_EQ(templateId, int{PageClass::IDD});
+        EXPECT_EQ(CExpRegenPropertyPage::GetThisClass(), PageClass::GetThisClass()->m_pfnGetBaseClass());
+        ui::UiThread::Get().Call([] { delete PageClass::GetThisClass()->CreateObject(); });
+        OpenSheet sheet({page.get()});
+        EXPECT_EQ(title, ui::TextOf(sheet.Page()));
     }
 
     /// What a page needs so that its boxes can be clicked.
@@ -274,19 +440,26 @@ template <class Record> void CheckHostileReals(const HostFolder& host, const std
     }
 }
 
-/// Each whole number of a fresh record's file holds -1 and then 2147483648 and is taken as it is read; `sanitized`
-/// names those that are not.
+/// Each whole number of a fresh record's file holds -1, 2147483648 and texts that are no numbers, and is taken as it is
+/// read; `sanitized` names those that are not.
 template <class Record> void CheckWholeNumbers(const HostFolder& host, const std::string& fresh,
                                                void (Record::*restore)(), void (Record::*save)(),
                                                const std::vector<std::string>& sanitized = {})
 {
     const std::string section = fresh.substr(1, fresh.find(']') - 1);
-    for (const std::string text : {"-1", "2147483648"}) {
+    for (const std::string& text :
+         {std::string("-1"), std::string("2147483648"), std::string(), std::string("   "), std::string(10000, 'x'),
+          std::string(10000, '7'), std::string("nan"), std::string("1e400")}) {
+        host.WriteSettings(fresh);
         std::string file = "[" + section + "]\r\n";
-        for (const std::string& key : KeysOf(fresh))
+        std::map<std::string, int> values; // the fallbacks, then what is read
+        for (const std::string& key : KeysOf(fresh)) {
             file += key + "=" + text + "\r\n";
+            values[key] = ReadWhole(section.c_str(), key.c_str(), 0);
+        }
         host.WriteSettings(file);
-        const int read = ReadWhole(section.c_str(), "Units", 0);
+        for (auto& [key, value] : values)
+            value = ReadWhole(section.c_str(), key.c_str(), value);
         Record record;
         (record.*restore)();
         (record.*save)();
@@ -295,7 +468,7 @@ template <class Record> void CheckWholeNumbers(const HostFolder& host, const std
             const bool isSanitized = std::find(sanitized.begin(), sanitized.end(), key) != sanitized.end();
             const bool isReal = saved.find('.') != std::string::npos;
             if (!isReal && !isSanitized) {
-                EXPECT_EQ(std::to_string(read), saved) << key;
+                EXPECT_EQ(std::to_string(values[key]), saved) << key << "=" << text.substr(0, 20);
             }
         }
     }

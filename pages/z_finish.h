@@ -1,0 +1,77 @@
+// Z-level finishing.
+#pragma once
+
+#include "expr/expression_edits.h"
+#include "frame/export.h"
+#include "pages/option_page.h"
+
+/// Default parameters of Z-level finishing, section "OptionsZFinish".
+///
+/// Lengths are in the record's own units. A field with a type beside it is a length while that type is 0 and a multiple
+/// of the tool radius otherwise. Nothing that a file holds is checked. The operations never fail: what is absent from a
+/// file stays as it is, and what cannot be written is lost without a message.
+class PELMAR_API CZFinishOptionsInfo {
+public:
+    int Units = 0;                 ///< 0 inch, 1 millimetre
+    double DepthFinishStep = 0.08; ///< step-down
+    int DepthFinishStepType = 1;
+    double SideClearance = 0.1; ///< distance of the approach to the contour
+    int SideClearanceType = 1;
+    int LeadAngleTol = 5;   ///< whole degrees
+    int GougeCheck = 1;     ///< of the lead-in: 1 on, 2 off
+    int PlungeSelType = 0;  ///< plunge point: 0 automatic, 1 chosen by the user
+    int PlungeWarnings = 0; ///< 1 reports plunge changes
+
+    /// Built-in values, overlaid by the defaults file and converted to the units that the page was last given.
+    void Defaults();
+    /// Writes the record to the settings file.
+    void vOptions_Save();
+    /// Reads the record from the settings file, units included; nothing is converted.
+    void vOptions_Restore();
+    /// Converts the lengths to other units.
+    void vZFinishOptionsCheckUnits(long units);
+};
+
+/// The live record, which the host reads when it makes a toolpath. Never null; the library keeps it.
+PELMAR_API CZFinishOptionsInfo* GetLastZFinishOptions();
+
+/// The page of the Z finishing defaults. It edits a copy of the live record, which OK puts back; it writes no file and
+/// tells its siblings nothing.
+class PELMAR_API CDefsZFinishPage : public CExpRegenPropertyPage {
+    DECLARE_DYNCREATE(CDefsZFinishPage)
+public:
+    enum { IDD = 3944 };
+
+    CDefsZFinishPage();
+
+    /// Hands the page the host's units (1 millimetre, else inch) and fills it from the live record.
+    void GetData(int units);
+
+    BOOL OnSetActive() override;
+    void OnOK() override;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+
+    void OnChangeOptionInfo();
+    /// Leaving the edits. The message map routes neither: a derived page may.
+    void OnKillFDepthFinishStep();
+    void OnKillFSideClearance();
+    void OnSelDepthStepSize();
+    void OnSelSideClearType();
+    void OnSelGougeCheck();
+    void OnSelPlungeSelType();
+    void OnSelPlungeWarnings();
+    void OnHelp();
+    LRESULT SetDefaults(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void LeaveEdit(int id);
+    void TakeChoice(int id);
+
+    int m_firstActivation = 1;
+    CExpEqEdit m_edits[3]; ///< the last one is spare
+    CExpEqEditInt m_leadAngleEdit;
+    CZFinishOptionsInfo m_options;
+};
