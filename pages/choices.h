@@ -13,3 +13,6 @@ constexpr UINT kCuttingDirections[] = {IDS_CONVENTIONAL, IDS_CLIMB};
 constexpr int kFirstCuttingDirection = 1;
 constexpr UINT kPlainSorts[] = {IDS_SORT_NONE, IDS_SORT_AUTOMATIC};
 constexpr UINT kSideStepModes[] = {IDS_SIDE_STEP_STRAIGHT, IDS_SIDE_STEP_ALONG_EDGE};
+constexpr UINT kPlainSorts[] = {IDS_SORT_NONE, IDS_SORT_AUTOMATIC};
+constexpr UINT kSideStepModes[] = {IDS_SIDE_STEP_STRAIGHT, IDS_SIDE_STEP_ALONG_EDGE};
+constexpr UINT kRapidFrequencies[] = {IDS_PER_PASS, IDS_PER_LEVEL};
