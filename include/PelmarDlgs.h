@@ -15,6 +15,8 @@
 #include "pages/flat_surface.h"
 #include "pages/milling_2axis.h"
 #include "pages/milling_3axis.h"
+#include "pages/milling_4axis.h"
+#include "pages/milling_5axis.h"
 #include "pages/option_page.h"
 #include "pages/round_mill.h"
 #include "pages/slot_mill.h"

@@ -56,12 +56,17 @@ protected:                                                                      
     static const AFX_MSGMAP* GetThisMessageMap();                                                                      \
     const AFX_MSGMAP* GetMessageMap() const override;
 
-#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                                         \
-    const AFX_MSGMAP* theClass::GetMessageMap() const                                                                  \
+#define BEGIN_MESSAGE_MAP(theClass, baseClass) AFX_BEGIN_MAP(, theClass, baseClass)
+/// The map of a class template with one type parameter.
+#define BEGIN_TEMPLATE_MESSAGE_MAP(theClass, type_name, baseClass)                                                     \
+    AFX_BEGIN_MAP(template <class type_name>, theClass<type_name>, baseClass)
+
+#define AFX_BEGIN_MAP(header, theClass, baseClass)                                                                     \
+    header const AFX_MSGMAP* theClass::GetMessageMap() const                                                           \
     {                                                                                                                  \
         return GetThisMessageMap();                                                                                    \
     }                                                                                                                  \
-    const AFX_MSGMAP* theClass::GetThisMessageMap()                                                                    \
+    header const AFX_MSGMAP* theClass::GetThisMessageMap()                                                             \
     {                                                                                                                  \
         using ThisClass [[maybe_unused]] = theClass;                                                                   \
         using TheBaseClass = baseClass;                                                                                \

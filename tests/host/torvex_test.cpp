@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+#include <prsht.h>
+
 #include <gtest/gtest.h>
 
 #include "host/torvex/resource.h"
@@ -81,11 +83,26 @@ protected:
     {
         Command(ID_NC_OPTIONS);
         m_sheet = ui::WaitForWindow(L"Параметры ЧПУ", m_process.dwProcessId);
+        FindPage();
+    }
+    /// Turns to the page that is made from a template.
+    void ShowPage(int templateId)
+    {
+        SendMessage(m_sheet, PSM_SETCURSELID, 0, templateId);
+        FindPage();
+    }
+    void FindPage()
+    {
         m_page = nullptr;
         for (const HWND child : ui::Children(m_sheet))
             if (ui::ClassOf(child) == L"#32770" && IsWindowVisible(child))
                 m_page = child;
         ASSERT_NE(nullptr, m_page);
+    }
+    HWND OpenRotaryDialog()
+    {
+        ui::Click(m_page, IDC_MX_ROTARY_OPTIONS);
+        return ui::WaitForWindow(L"Параметры осей поворота", m_process.dwProcessId);
     }
     void CloseOptions(int button)
     {
@@ -234,6 +251,38 @@ TEST_F(Torvex, DefaultsButtonOfTheSheetRestoresThePageInFront)
     ui::Click(m_sheet, IDC_PAGE_DEFAULTS);
     EXPECT_TRUE(ComesToHold(IDC_2X_SIDE_ROUGH_STEP, L"0.8000"));
     CloseOptions(IDCANCEL);
+}
+
+TEST_F(Torvex, LetsTheUserGiveTheAxisOfRotationOnBothMultiAxisPages)
+{
+    Start();
+    OpenOptions();
+    for (const int page : {IDD_4X, IDD_5X}) {
+        ShowPage(page);
+        const HWND dialog = OpenRotaryDialog();
+        ui::Type(dialog, IDC_ROTARY_START_Y, L"x");
+        ui::Press(ui::Control(dialog, IDC_ROTARY_START_Y), VK_RETURN);
+        const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+        EXPECT_EQ(L"Введите число.", box.text);
+        ui::Answer(box, IDOK);
+        ui::Type(dialog, IDC_ROTARY_START_Y, L"2.5");
+        ui::Press(ui::Control(dialog, IDC_ROTARY_START_Y), VK_RETURN);
+        EXPECT_TRUE(ui::WaitForClose(dialog));
+    }
+    CloseOptions(IDOK);
+    EXPECT_TRUE(ComesToWrite("StartPY=2.500000"));
+
+    OpenOptions();
+    for (const int page : {IDD_4X, IDD_5X}) {
+        ShowPage(page);
+        const HWND dialog = OpenRotaryDialog();
+        EXPECT_EQ(L"2.5000", ui::TextOf(dialog, IDC_ROTARY_START_Y)) << page;
+        EXPECT_EQ(L"1.0000", ui::TextOf(dialog, IDC_ROTARY_END_X)) << page;
+        ui::Press(ui::Control(dialog, IDC_ROTARY_START_X), VK_ESCAPE);
+        EXPECT_TRUE(ui::WaitForClose(dialog));
+    }
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
 }
 
 TEST_F(Torvex, GoesOnWithoutTheToolLibraryAfterSayingSoOnce)

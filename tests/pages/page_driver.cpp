@@ -216,6 +216,11 @@ std::string TopicShownFor(HWND page, int control)
     ui::UiThread::Get().Call([&] { AfxGetApp()->m_bHelpMode = control != 0; });
     PostMessage(page, WM_COMMAND, ID_HELP, 0);
     ui::Settle(page);
+    return LastTopicShown();
+}
+
+std::string LastTopicShown()
+{
     return Shown("HelpStandIn_Topic");
 }
 

@@ -61,5 +61,6 @@ std::vector<std::string> LayoutFaults(HWND dialog);
 /// The help topic that the page shows when the user asks about a control with Shift+F1, or about the page with F1 when
 /// `control` is 0. Read from the stand-in for the help viewer.
 std::string TopicShownFor(HWND page, int control);
-/// The help file that the last topic was taken from.
+/// The topic that was shown last, and the help file that it was taken from.
+std::string LastTopicShown();
 std::string HelpFileShown();

@@ -1,0 +1,7 @@
+// The axis of rotation of 4-axis and 5-axis milling.
+#pragma once
+
+#include <array>
+
+/// Two points on the axis: X, Y and Z of the start point, then of the end point.
+using AxisPoints = std::array<double, 6>;

@@ -1,0 +1,96 @@
+#include "pages/rotary_dialog.h"
+
+#include "frame/help_viewer.h"
+#include "frame/module.h"
+#include "resources/resource.h"
+
+namespace {
+/// The edits of the axis's coordinates, in its order.
+constexpr int kEdits[] = {IDC_ROTARY_START_X, IDC_ROTARY_START_Y, IDC_ROTARY_START_Z,
+                          IDC_ROTARY_END_X,   IDC_ROTARY_END_Y,   IDC_ROTARY_END_Z};
+static_assert(std::size(kEdits) == std::tuple_size_v<AxisPoints>);
+
+constexpr char kTopic[] = "pelmar-_optionspopups_rotary_options_4_axis_options.htm";
+} // namespace
+
+static_assert(int{CDefsRotaryMillDlg::IDD} == IDD_ROTARY);
+
+BEGIN_MESSAGE_MAP(CDefsRotaryMillDlg, CDialog)
+    ON_EN_KILLFOCUS(IDC_ROTARY_START_X, &CDefsRotaryMillDlg::OnKillFStartX)
+    ON_EN_KILLFOCUS(IDC_ROTARY_START_Y, &CDefsRotaryMillDlg::OnKillFStartY)
+    ON_EN_KILLFOCUS(IDC_ROTARY_START_Z, &CDefsRotaryMillDlg::OnKillFStartZ)
+    ON_EN_KILLFOCUS(IDC_ROTARY_END_X, &CDefsRotaryMillDlg::OnKillFEndX)
+    ON_EN_KILLFOCUS(IDC_ROTARY_END_Y, &CDefsRotaryMillDlg::OnKillFEndY)
+    ON_EN_KILLFOCUS(IDC_ROTARY_END_Z, &CDefsRotaryMillDlg::OnKillFEndZ)
+    ON_COMMAND(ID_HELP, &CDefsRotaryMillDlg::OnHelp)
+END_MESSAGE_MAP()
+
+CDefsRotaryMillDlg::CDefsRotaryMillDlg(CWnd* parent) : CDialog(IDD, parent) {}
+
+INT_PTR CDefsRotaryMillDlg::DoModal()
+{
+    const ModuleResources resources;
+    return CDialog::DoModal();
+}
+
+BOOL CDefsRotaryMillDlg::OnInitDialog()
+{
+    for (size_t coordinate = 0; coordinate < m_edits.size(); ++coordinate)
+        m_edits[coordinate].SubclassDlgItem(static_cast<unsigned>(kEdits[coordinate]), this);
+    return CDialog::OnInitDialog();
+}
+
+void CDefsRotaryMillDlg::DoDataExchange(CDataExchange* exchange)
+{
+    CDialog::DoDataExchange(exchange);
+    for (size_t coordinate = 0; coordinate < m_axis.size(); ++coordinate)
+        DDX_Expression(exchange, kEdits[coordinate], m_axis[coordinate]);
+}
+
+/// A cancelled dialog loses the focus too: it must not complain about a text that the user gives up.
+void CDefsRotaryMillDlg::OnCancel()
+{
+    m_isCancelled = true;
+    CDialog::OnCancel();
+}
+
+void CDefsRotaryMillDlg::LeaveEdit(size_t coordinate)
+{
+    if (!m_isCancelled && UpdateData(TRUE))
+        ShowExpression(this, kEdits[coordinate], &m_axis[coordinate]);
+}
+
+void CDefsRotaryMillDlg::OnKillFStartX()
+{
+    LeaveEdit(0);
+}
+
+void CDefsRotaryMillDlg::OnKillFStartY()
+{
+    LeaveEdit(1);
+}
+
+void CDefsRotaryMillDlg::OnKillFStartZ()
+{
+    LeaveEdit(2);
+}
+
+void CDefsRotaryMillDlg::OnKillFEndX()
+{
+    LeaveEdit(3);
+}
+
+void CDefsRotaryMillDlg::OnKillFEndY()
+{
+    LeaveEdit(4);
+}
+
+void CDefsRotaryMillDlg::OnKillFEndZ()
+{
+    LeaveEdit(5);
+}
+
+void CDefsRotaryMillDlg::OnHelp()
+{
+    ShowTopic(*this, ChooseTopic(*this, {}, kTopic, {}));
+}
