@@ -9,5 +9,6 @@
 #include "frame/module.h"
 #include "frame/settings_locations.h"
 #include "frame/settings_values.h"
+#include "pages/hole_process.h"
 #include "pages/milling_2axis.h"
 #include "pages/option_page.h"
