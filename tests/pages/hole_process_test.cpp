@@ -532,7 +532,7 @@ TEST_F(HolePage, ChecksThatAreOnlyExchangedMarkNothing)
 TEST_F(HolePage, NegativeLengthsAreRefusedAndZeroAccepted)
 {
     CheckBounds({{kBandWidth, L"-0.0001", L"0", L"0.0000", kShownUnbounded},
-                 {kBandWidth, L"3.5*10^38", L"1", L"0.0000", kShownUnbounded},
+                 {kBandWidth, L"4.0e38", L"3.4028234663852886e38", L"0.0000", kShownUnbounded},
                  {kAccurateDistance, L"-1", L"0", L"0.0000", kShownUnbounded},
                  {kAccurateFeedRate, L"-0.0001", L"0", L"0.0000", kShownUnbounded}},
                 Accurate());
@@ -909,6 +909,188 @@ TEST_F(HolePage, CanBeCreatedDynamically)
     EXPECT_EQ(4159, int{DefsHoleProcessPage::IDD});
     EXPECT_EQ(CExpRegenPropertyPage::GetThisClass(), DefsHoleProcessPage::GetThisClass()->m_pfnGetBaseClass());
     ui::UiThread::Get().Call([] { delete DefsHoleProcessPage::GetThisClass()->CreateObject(); });
+}
+
+// ---- choosing a template ----
+
+// The system's file dialog, as it numbers its controls.
+constexpr int kFileNames = 0x47C;
+constexpr int kFileFilter = 0x470;
+constexpr int kOpenReadOnly = 0x410;
+
+/// Two folders: templates that the host's settings name, and another one. The dialog opens from the page.
+class HoleTemplate : public HolePage {
+protected:
+    HoleTemplate()
+    {
+        templates = host.folder + "\\Templates";
+        elsewhere = host.folder + "\\Elsewhere";
+        for (const std::string& folder : {templates, elsewhere}) {
+            fs::create_directories(folder);
+            WriteFile(folder + "\\one.tvhpt", "1");
+            WriteFile(folder + "\\two.tvhpt", "2");
+            WriteFile(folder + "\\notes.txt", "3");
+        }
+        WritePrivateProfileStringA("DefaultPath", "HoleProcessTemplates", templates.c_str(), host.hostSettings.c_str());
+    }
+
+    /// A page with this template, shown.
+    void Show(const std::string& startupTemplate)
+    {
+        Record record;
+        record.StartupTemplate = startupTemplate;
+        page = Fresh(record);
+        sheet = std::make_unique<OpenSheet>(std::vector<CPropertyPage*>{page.get()});
+    }
+
+    HWND OpenDialog()
+    {
+        ui::Click(sheet->Page(), kChooseTemplate);
+        HWND dialog = nullptr;
+        ui::WaitUntil([&] {
+            for (const HWND window : ui::TopLevelWindows())
+                if (GetDlgItem(window, kFileNames) && GetDlgItem(window, kFileFilter))
+                    dialog = window;
+            return dialog != nullptr;
+        });
+        if (!dialog)
+            throw std::runtime_error("no file dialog came");
+        ui::Settle(dialog);
+        return dialog;
+    }
+
+    /// The edit in the list of file names.
+    static HWND NameEdit(HWND dialog)
+    {
+        const HWND list = FindWindowEx(ui::Control(dialog, kFileNames), nullptr, L"ComboBox", nullptr);
+        return FindWindowEx(list, nullptr, L"Edit", nullptr);
+    }
+
+    /// Names the file and presses the dialog's Open button.
+    static void Name(HWND dialog, const std::wstring& name)
+    {
+        SendMessage(NameEdit(dialog), EM_SETSEL, 0, -1);
+        ui::TypeAt(NameEdit(dialog), name);
+        PostMessage(ui::Control(dialog, IDOK), BM_CLICK, 0, 0);
+        ui::Settle(dialog);
+    }
+    void Choose(HWND dialog, const std::wstring& name)
+    {
+        Name(dialog, name);
+        ASSERT_TRUE(ui::WaitForClose(dialog));
+        ui::Settle(sheet->window);
+    }
+    void Cancel(HWND dialog)
+    {
+        PostMessage(ui::Control(dialog, IDCANCEL), BM_CLICK, 0, 0);
+        ASSERT_TRUE(ui::WaitForClose(dialog));
+        ui::Settle(sheet->window);
+    }
+
+    std::wstring ShownTemplate() { return ui::TextOf(sheet->Page(), kTemplate); }
+    static std::wstring Wide(const std::string& text) { return CString(text.c_str()).GetString(); }
+
+    std::string templates;
+    std::string elsewhere;
+    std::unique_ptr<OpenSheet> sheet;
+};
+
+TEST_F(HoleTemplate, TheChosenFileBecomesTheTemplateWithItsFullPath)
+{
+    Show("");
+    const HWND dialog = OpenDialog();
+    EXPECT_EQ(L"", ui::TextOf(NameEdit(dialog)));
+    EXPECT_EQ((std::vector<std::wstring>{L"Hole Process Template Files (*.tvhpt)", L"All (*.*)"}),
+              ui::Items(dialog, kFileFilter));
+    EXPECT_FALSE(ui::IsShown(dialog, kOpenReadOnly));
+    EXPECT_EQ(sheet->window, GetWindow(dialog, GW_OWNER));
+    Choose(dialog, L"two.tvhpt");
+    EXPECT_EQ(Wide(templates + "\\two.tvhpt"), ShownTemplate());
+    EXPECT_TRUE(sheet->IsModified());
+    EXPECT_EQ("", GetLastHoleProcessDefsInfo()->StartupTemplate);
+    sheet->Ok();
+    EXPECT_EQ(templates + "\\two.tvhpt", GetLastHoleProcessDefsInfo()->StartupTemplate);
+}
+
+TEST_F(HoleTemplate, AFileNameWithoutExtensionGetsTheTemplatesOne)
+{
+    Show("");
+    Choose(OpenDialog(), L"one");
+    EXPECT_EQ(Wide(templates + "\\one.tvhpt"), ShownTemplate());
+}
+
+TEST_F(HoleTemplate, ItStartsFromTheCurrentTemplate)
+{
+    Show(elsewhere + "\\one.tvhpt");
+    const HWND dialog = OpenDialog();
+    EXPECT_EQ(L"one.tvhpt", ui::TextOf(NameEdit(dialog)));
+    Choose(dialog, L"two.tvhpt");
+    EXPECT_EQ(Wide(elsewhere + "\\two.tvhpt"), ShownTemplate());
+}
+
+TEST_F(HoleTemplate, CancelChangesNothing)
+{
+    Show(elsewhere + "\\one.tvhpt");
+    Cancel(OpenDialog());
+    EXPECT_EQ(Wide(elsewhere + "\\one.tvhpt"), ShownTemplate());
+    EXPECT_FALSE(sheet->IsModified());
+}
+
+TEST_F(HoleTemplate, AFileThatDoesNotExistIsRefused)
+{
+    Show("");
+    const HWND dialog = OpenDialog();
+    Name(dialog, L"three.tvhpt");
+    const ui::MessageBoxSeen box = ui::WaitForBox();
+    PostMessage(ui::Control(box.window, box.buttons.front()), BM_CLICK, 0, 0);
+    ASSERT_TRUE(ui::WaitForClose(box.window));
+    ASSERT_TRUE(IsWindow(dialog));
+    Cancel(dialog);
+    EXPECT_EQ(L"", ShownTemplate());
+}
+
+TEST_F(HoleTemplate, WhatWasTypedAndNotYetTakenIsShownAsItWasAfterAChoice)
+{
+    Show("");
+    ui::Type(sheet->Page(), kBandWidth, L"7");
+    ui::Click(sheet->Page(), kBidirectional);
+    Choose(OpenDialog(), L"two.tvhpt");
+    EXPECT_EQ(L"1.0000", ui::TextOf(sheet->Page(), kBandWidth));
+    EXPECT_TRUE(ui::IsChecked(sheet->Page(), kBidirectional));
+}
+
+TEST_F(HoleTemplate, TheCurrentFolderStaysThatRelativeSettingsPathsKeepTheirMeaning)
+{
+    const fs::path before = fs::current_path();
+    Show("");
+    Choose(OpenDialog(), Wide(elsewhere + "\\one.tvhpt"));
+    EXPECT_EQ(before, fs::current_path());
+    Cancel(OpenDialog());
+    EXPECT_EQ(before, fs::current_path());
+}
+
+TEST_F(HoleTemplate, ATemplateThatIsNoPathDoesNotKeepTheDialogFromOpening)
+{
+    for (const std::string& odd :
+         {"\"" + elsewhere + "\\one.tvhpt\"", std::string("C:\\a\"b.tvhpt"), std::string("?*<>|"),
+          "C:\\" + std::string(400, 'x') + ".tvhpt", std::string(10000, 'x'), std::string(40000, 'x'),
+          std::string("C:\\no such folder\\one.tvhpt"), std::string("C:\\"), std::string("\x01\x02")}) {
+        Show(odd);
+        const HWND dialog = OpenDialog();
+        Choose(dialog, Wide(templates + "\\two.tvhpt"));
+        EXPECT_EQ(Wide(templates + "\\two.tvhpt"), ShownTemplate()) << odd.substr(0, 40);
+    }
+}
+
+TEST_F(HoleTemplate, AFolderThatIsNoneDoesNotKeepTheDialogFromOpening)
+{
+    for (const std::string& odd :
+         {std::string(), std::string(10000, 'x'), std::string("?*<>|"), std::string("C:\\no such folder")}) {
+        WritePrivateProfileStringA("DefaultPath", "HoleProcessTemplates", odd.c_str(), host.hostSettings.c_str());
+        Show("");
+        Choose(OpenDialog(), Wide(templates + "\\two.tvhpt"));
+        EXPECT_EQ(Wide(templates + "\\two.tvhpt"), ShownTemplate()) << odd.substr(0, 40);
+    }
 }
 
 } // namespace
