@@ -13,6 +13,7 @@
 #include "pages/face_mill.h"
 #include "pages/groove_mill.h"
 #include "pages/flat_surface.h"
+#include "pages/hole_process.h"
 #include "pages/milling_2axis.h"
 #include "pages/milling_3axis.h"
 #include "pages/milling_4axis.h"

@@ -68,6 +68,11 @@ template <class Page, class Record> OptionPage Row(Record* record, void (Record:
     return Row<Page>(record, checkUnits, &Record::vOptions_Restore, &Record::vOptions_Save);
 }
 
+template <class Page, class Record> OptionPage Row(Record* record, void (Record::*checkUnits)(long))
+{
+    return Row<Page>(record, checkUnits, &Record::vOptions_Restore, &Record::vOptions_Save);
+}
+
 } // namespace
 
 std::span<const OptionPage> OptionPages()
@@ -92,6 +97,9 @@ std::span<const OptionPage> OptionPages()
                                &CSlotMillDefsInfo::vSlotMillDefs_Restore, &CSlotMillDefsInfo::vSlotMillDefs_Save),
         Row(Make4xPage, GetLast4xOptions(), &C4AxisOptionsInfo::v4xOptionsCheckUnits),
         Row(Make5xPage, GetLast5xOptions(), &C5AxisOptionsInfo::v5xOptionsCheckUnits),
+        Row<DefsHoleProcessPage>(GetLastHoleProcessDefsInfo(), &HoleProcessDefsInfo::HoleProcessDefsCheckUnits,
+                                 &HoleProcessDefsInfo::HoleProcessDefs_Restore,
+                                 &HoleProcessDefsInfo::HoleProcessDefs_Save),
     };
     return pages;
 }

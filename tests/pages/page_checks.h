@@ -258,10 +258,10 @@ protected:
     }
 
     /// A refused text shows the range prompt, keeps the sheet open and the focus in the field.
-    void CheckBounds(const std::vector<Bound>& rows)
+    void CheckBounds(const std::vector<Bound>& rows, const Record& record = Record())
     {
         for (const Bound& row : rows) {
-            const std::unique_ptr<PageClass> shown = Fresh();
+            const std::unique_ptr<PageClass> shown = Fresh(record);
             OpenSheet sheet({shown.get()});
             ui::Type(sheet.Page(), row.id, row.refused);
             sheet.Press(IDOK);
