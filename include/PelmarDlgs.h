@@ -9,5 +9,7 @@
 #include "frame/module.h"
 #include "frame/settings_locations.h"
 #include "frame/settings_values.h"
+#include "pages/lathe.h"
+#include "pages/lathe_axes.h"
 #include "pages/milling_2axis.h"
 #include "pages/option_page.h"

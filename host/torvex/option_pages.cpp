@@ -2,6 +2,8 @@
 
 #include <PelmarDlgs.h>
 
+#include "lathe_page.h"
+
 namespace {
 
 template <class Page, class Record> OptionPage Row(Record* record, void (Record::*checkUnits)(long))
@@ -22,6 +24,7 @@ std::span<const OptionPage> OptionPages()
     // A further page is a further row.
     static const OptionPage pages[] = {
         Row<CDefs2xPage>(GetLast2xOptions(), &C2AxisOptionsInfo::v2xOptionsCheckUnits),
+        Row<CLathePage>(GetLastLatheOptions(), &CLatheOptionsInfo::vLatheOptionsCheckUnits),
     };
     return pages;
 }
