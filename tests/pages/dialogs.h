@@ -2,3 +2,4 @@
 #pragma once
 
 #define IDD_SPY 900
+#define IDD_OF_A_HOST 113
