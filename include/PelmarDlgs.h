@@ -14,6 +14,8 @@
 #include "pages/groove_mill.h"
 #include "pages/flat_surface.h"
 #include "pages/hole_process.h"
+#include "pages/lathe.h"
+#include "pages/lathe_axes.h"
 #include "pages/milling_2axis.h"
 #include "pages/milling_3axis.h"
 #include "pages/milling_4axis.h"

@@ -2,6 +2,8 @@
 
 #include <PelmarDlgs.h>
 
+#include "lathe_page.h"
+
 namespace {
 
 template <class Page, class Record>
@@ -100,6 +102,7 @@ std::span<const OptionPage> OptionPages()
         Row<DefsHoleProcessPage>(GetLastHoleProcessDefsInfo(), &HoleProcessDefsInfo::HoleProcessDefsCheckUnits,
                                  &HoleProcessDefsInfo::HoleProcessDefs_Restore,
                                  &HoleProcessDefsInfo::HoleProcessDefs_Save),
+        Row<CLathePage>(GetLastLatheOptions(), &CLatheOptionsInfo::vLatheOptionsCheckUnits),
     };
     return pages;
 }

@@ -3,5 +3,6 @@
 
 #define IDD_SPY 900
 
-/// A dialog of the program's own under the number of one of the library's.
+/// Dialogs of the program's own under the numbers of two of the library's.
 #define IDD_SAME_NUMBER_AS_ROTARY 4157
+#define IDD_OF_A_HOST 113
