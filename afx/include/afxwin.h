@@ -353,12 +353,17 @@ public:
     [[noreturn]] void Fail();
 };
 
+/// Saving, a text that is no whole number of 32 bits is refused with AFX_IDP_PARSE_INT.
 AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, int& value);
 AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, CString& value);
+/// A value that is no check state shows as off.
 AFX_CLASS void DDX_Check(CDataExchange* exchange, int id, int& value);
-/// `id`: the first button of the group. -1 stands for no button on.
+/// `id`: the first button of the group, which ends before the next control with WS_GROUP. The value counts the
+/// group's radio buttons from 0; -1 stands for no button on.
 AFX_CLASS void DDX_Radio(CDataExchange* exchange, int id, int& value);
+/// Nothing is selected for an index that the list does not have.
 AFX_CLASS void DDX_CBIndex(CDataExchange* exchange, int id, int& index);
+/// Makes `control` the object of the dialog's control, unless it has a window already.
 AFX_CLASS void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
 
 // ---- the application ---------------------------------------------------------------------------------------

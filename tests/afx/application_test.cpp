@@ -181,10 +181,9 @@ TEST_F(RunningApplication, EndsWithTheCodeThatItIsToldToQuitWith)
     OnUi([] { PostQuitMessage(3); });
     EXPECT_TRUE(ui::UiThread::Get().WaitForStarted());
     EXPECT_EQ(3, result);
-    OnUi([this] { ::DestroyWindow(window); });
-    OnUi([] { // the quit message of the frame's end is not for the thread's own loop
-        MSG message;
-        PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    OnUi([this] {
+        application.m_pMainWnd = nullptr; // the frame's end is not to end the thread's own loop
+        ::DestroyWindow(window);
     });
 }
 

@@ -103,10 +103,12 @@ TEST_F(Controls, ButtonHoldsItsCheckAndItsIcon)
         EXPECT_EQ(BST_UNCHECKED, button.GetCheck());
         button.SetCheck(BST_INDETERMINATE);
         EXPECT_EQ(BST_INDETERMINATE, button.GetCheck());
-        EXPECT_EQ(nullptr, button.GetIcon());
-        EXPECT_EQ(nullptr, button.SetIcon(icon));
-        EXPECT_EQ(icon, button.GetIcon());
-        EXPECT_EQ(icon, button.SetIcon(nullptr));
+        CButton picture;
+        ASSERT_TRUE(picture.CreateEx(0, L"BUTTON", L"", WS_CHILD | BS_ICON, CRect(0, 0, 40, 40), &dialog, 1));
+        EXPECT_EQ(nullptr, picture.GetIcon());
+        EXPECT_EQ(nullptr, picture.SetIcon(icon));
+        EXPECT_EQ(icon, picture.GetIcon());
+        EXPECT_EQ(icon, picture.SetIcon(nullptr));
     });
 }
 

@@ -52,9 +52,9 @@ protected:
     {
         wchar_t temp[MAX_PATH];
         GetTempPath(MAX_PATH, temp);
-        folder = fs::path(temp) / (L"Папка " + std::to_wstring(GetCurrentProcessId()));
+        folder = fs::path(temp) / (L"afx files " + std::to_wstring(GetCurrentProcessId()));
         fs::create_directories(folder);
-        for (const wchar_t* name : {L"шаблон.tvhpt", L"second.tvhpt", L"other.txt"})
+        for (const wchar_t* name : {L"first.tvhpt", L"second.tvhpt", L"other.txt"})
             std::ofstream(folder / name) << "x";
         before = fs::current_path();
     }
@@ -97,9 +97,9 @@ constexpr const wchar_t* kFilter = L"Шаблоны (*.tvhpt)|*.tvhpt|Все (*.
 TEST_F(FileDialog, TellsTheChosenFile)
 {
     CFileDialog dialog(TRUE, L"tvhpt", nullptr, OFN_FILEMUSTEXIST | OFN_HIDEREADONLY, kFilter);
-    EXPECT_EQ(IDOK, Choose(Open(dialog), L"шаблон.tvhpt"));
-    EXPECT_EQ(PathOf(L"шаблон.tvhpt"), dialog.GetPathName().GetString());
-    EXPECT_STREQ(L"шаблон.tvhpt", dialog.GetFileName());
+    EXPECT_EQ(IDOK, Choose(Open(dialog), L"first.tvhpt"));
+    EXPECT_EQ(PathOf(L"first.tvhpt"), dialog.GetPathName().GetString());
+    EXPECT_STREQ(L"first.tvhpt", dialog.GetFileName());
 }
 
 TEST_F(FileDialog, TellsThatTheUserHasLeft)
@@ -137,8 +137,8 @@ TEST_F(FileDialog, ShowsTheFileNameThatItStartsWith)
 TEST_F(FileDialog, AddsTheDefaultExtension)
 {
     CFileDialog dialog(FALSE, L"tvhpt", nullptr, OFN_HIDEREADONLY, kFilter);
-    EXPECT_EQ(IDOK, Choose(Open(dialog), L"новый"));
-    EXPECT_EQ(PathOf(L"новый.tvhpt"), dialog.GetPathName().GetString());
+    EXPECT_EQ(IDOK, Choose(Open(dialog), L"fresh"));
+    EXPECT_EQ(PathOf(L"fresh.tvhpt"), dialog.GetPathName().GetString());
 }
 
 TEST_F(FileDialog, KeepsAnotherExtensionThatIsTyped)

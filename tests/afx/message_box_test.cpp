@@ -21,7 +21,7 @@ HICON Icon(LPCTSTR name)
     return LoadIcon(nullptr, name);
 }
 
-TEST(MessageBox, BearsTheNameOfTheApplicationAndAnExclamationMark)
+TEST(Box, BearsTheNameOfTheApplicationAndAnExclamationMark)
 {
     CWinApp application(L"Проверка");
     int answer = 0;
@@ -34,7 +34,7 @@ TEST(MessageBox, BearsTheNameOfTheApplicationAndAnExclamationMark)
     EXPECT_EQ(IDOK, answer);
 }
 
-TEST(MessageBox, BearsAQuestionMarkWhereItAsks)
+TEST(Box, BearsAQuestionMarkWhereItAsks)
 {
     CWinApp application(L"Проверка");
     int answer = 0;
@@ -46,7 +46,7 @@ TEST(MessageBox, BearsAQuestionMarkWhereItAsks)
     EXPECT_EQ(IDNO, answer);
 }
 
-TEST(MessageBox, BearsTheIconThatIsAskedFor)
+TEST(Box, BearsTheIconThatIsAskedFor)
 {
     CWinApp application(L"Проверка");
     const ui::MessageBoxSeen box = Show([] { AfxMessageBox(L"x", MB_OK | MB_ICONINFORMATION); });
@@ -54,7 +54,7 @@ TEST(MessageBox, BearsTheIconThatIsAskedFor)
     AnswerAndEnd(box, IDOK);
 }
 
-TEST(MessageBox, ComesUpWithoutAnApplicationToo)
+TEST(Box, ComesUpWithoutAnApplicationToo)
 {
     ASSERT_EQ(nullptr, AfxGetApp());
     int answer = 0;
@@ -65,7 +65,7 @@ TEST(MessageBox, ComesUpWithoutAnApplicationToo)
     EXPECT_EQ(IDOK, answer);
 }
 
-TEST(MessageBox, KeepsTheActiveWindowFromInput)
+TEST(Box, KeepsTheActiveWindowFromInput)
 {
     CWinApp application(L"Проверка");
     CDialog dialog(IDD_NUMBER);
@@ -78,7 +78,7 @@ TEST(MessageBox, KeepsTheActiveWindowFromInput)
     open.CloseBy(IDOK);
 }
 
-TEST(MessageBox, OfAWindowBearsTheNameOfTheApplicationOrItsOwn)
+TEST(Box, OfAWindowBearsTheNameOfTheApplicationOrItsOwn)
 {
     CWinApp application(L"Проверка");
     CDialog dialog(IDD_NUMBER);
@@ -99,7 +99,7 @@ TEST(MessageBox, OfAWindowBearsTheNameOfTheApplicationOrItsOwn)
 
 // ---- what reaches the application ----
 
-TEST(MessageBoxOfTheApplication, GetsTextTypeAndHelpContext)
+TEST(BoxOfTheApplication, GetsTextTypeAndHelpContext)
 {
     CQuietApp application;
     application.answer = IDRETRY;
@@ -110,14 +110,14 @@ TEST(MessageBoxOfTheApplication, GetsTextTypeAndHelpContext)
     EXPECT_EQ(55U, application.boxes[0].helpId);
 }
 
-TEST(MessageBoxOfTheApplication, HasNoHelpContextForAPlainText)
+TEST(BoxOfTheApplication, HasNoHelpContextForAPlainText)
 {
     CQuietApp application;
     AfxMessageBox(L"text");
     EXPECT_EQ(0U, application.boxes.at(0).helpId);
 }
 
-TEST(MessageBoxOfTheApplication, HasThePromptForItsHelpContext)
+TEST(BoxOfTheApplication, HasThePromptForItsHelpContext)
 {
     CQuietApp application;
     AfxMessageBox(IDS_QUESTION);
@@ -126,7 +126,7 @@ TEST(MessageBoxOfTheApplication, HasThePromptForItsHelpContext)
     EXPECT_EQ(7U, application.boxes.at(1).helpId);
 }
 
-TEST(MessageBoxOfTheApplication, GetsTheIconThatFitsTheButtons)
+TEST(BoxOfTheApplication, GetsTheIconThatFitsTheButtons)
 {
     CQuietApp application;
     const struct {
@@ -145,7 +145,7 @@ TEST(MessageBoxOfTheApplication, GetsTheIconThatFitsTheButtons)
     }
 }
 
-TEST(MessageBoxOfTheApplication, IsEmptyWhereThePromptIsMissing)
+TEST(BoxOfTheApplication, IsEmptyWhereThePromptIsMissing)
 {
     CQuietApp application;
     AfxMessageBox(UINT{IDS_NOWHERE});
