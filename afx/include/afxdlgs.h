@@ -77,7 +77,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    INT_PTR Show(std::vector<PROPSHEETPAGEW>& pages);
+    INT_PTR Show();
 
     CString m_caption;
     CWnd* m_parent;

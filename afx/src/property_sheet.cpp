@@ -181,18 +181,20 @@ INT_PTR CPropertySheet::DoModal()
 {
     if (m_hWnd || m_pages.empty())
         return -1;
+    const INT_PTR result = Show();
+    for (CPropertyPage* page : m_pages)
+        if (page->m_sheet == this)
+            page->m_sheet = nullptr;
+    return result;
+}
+
+INT_PTR CPropertySheet::Show()
+{
     std::vector<PROPSHEETPAGEW> pages;
     for (CPropertyPage* page : m_pages)
         if (!page->Prepare(*this, pages.emplace_back()))
             return -1;
-    const INT_PTR result = Show(pages);
-    for (CPropertyPage* page : m_pages)
-        page->m_sheet = nullptr;
-    return result;
-}
 
-INT_PTR CPropertySheet::Show(std::vector<PROPSHEETPAGEW>& pages)
-{
     PROPSHEETHEADERW header = m_psh;
     header.hInstance = AfxGetInstanceHandle();
     header.pszCaption = m_caption;

@@ -21,6 +21,7 @@ HandleMap& PermanentMap()
 /// Objects made for windows that have none of their own. They only lend their handle and destroy nothing.
 class TemporaryMap {
 public:
+    TemporaryMap() { PermanentMap(); } // which their ends look into: it must outlive this one
     CWnd* Get(HWND window)
     {
         const auto found = m_temporaries.find(window);

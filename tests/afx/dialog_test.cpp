@@ -220,6 +220,31 @@ TEST(Dialog, BelongsToTheWholeWindowOfAControl)
     open.CloseBy(IDOK);
 }
 
+/// Asks for the "?" in its caption while its frame is being created.
+class CContextHelpDialog : public CTestDialog {
+protected:
+    BOOL OnNcCreate(CREATESTRUCTW* create)
+    {
+        log.push_back("nccreate");
+        ModifyStyleEx(0, WS_EX_CONTEXTHELP);
+        return CTestDialog::OnNcCreate(create);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CContextHelpDialog, CTestDialog)
+    ON_WM_NCCREATE()
+END_MESSAGE_MAP()
+
+TEST(Dialog, CanChangeItsStyleWhileItsFrameIsCreated)
+{
+    CContextHelpDialog dialog;
+    Modal open(dialog, L"Проба");
+    EXPECT_EQ((Log{"nccreate", "load", "init"}), dialog.log);
+    EXPECT_TRUE(GetWindowLong(open.window, GWL_EXSTYLE) & WS_EX_CONTEXTHELP);
+    EXPECT_EQ(IDOK, open.CloseBy(IDOK));
+}
+
 TEST(Dialog, StandsModelesslyUntilItIsDestroyed)
 {
     CTestDialog dialog;
