@@ -161,13 +161,15 @@ TEST(Dialog, IsNotShownWithoutATemplate)
     EXPECT_TRUE(dialog.log.empty());
 }
 
-TEST(Dialog, IsNotShownWhereAControlCannotBeCreated)
+TEST(Dialog, IsNotShownWhereAWindowOfItCannotBeCreated)
 {
-    CTestDialog dialog(IDD_BROKEN);
-    EXPECT_EQ(-1, ui::On([&] { return dialog.DoModal(); }));
-    EXPECT_FALSE(ui::On([&] { return dialog.Create(IDD_BROKEN); }));
-    EXPECT_EQ(nullptr, dialog.m_hWnd);
-    EXPECT_TRUE(dialog.log.empty());
+    for (const UINT id : {IDD_BROKEN, IDD_UNKNOWN_CLASS}) {
+        CTestDialog dialog(id);
+        EXPECT_EQ(-1, ui::On([&] { return dialog.DoModal(); }));
+        EXPECT_FALSE(ui::On([&] { return dialog.Create(id); }));
+        EXPECT_EQ(nullptr, dialog.m_hWnd);
+        EXPECT_TRUE(dialog.log.empty());
+    }
 }
 
 TEST(Dialog, IsNotShownTwiceAtATime)

@@ -248,23 +248,60 @@ TEST_F(Sheet, IsNotShownWithAPageThatAnotherSheetShows)
     EXPECT_EQ(IDOK, open.CloseBy(IDOK));
 }
 
-TEST_F(Sheet, GivesNoWindowToAPageThatCouldNotBeCreated)
+/// Opens a window of its own when it ends, and looks whose that is.
+class CLastWindowPage : public CNotingPage {
+public:
+    using CNotingPage::CNotingPage;
+    const CWnd* owner = nullptr;
+    int windows = 0;
+
+protected:
+    void OnDestroy()
+    {
+        for (const DWORD style : {DWORD{WS_POPUP}, DWORD{WS_CHILD}}) {
+            const HWND last = CreateWindow(L"STATIC", L"", style, 0, 0, 9, 9, m_hWnd, nullptr, nullptr, nullptr);
+            windows += last ? 1 : 0;
+            owner = owner ? owner : FromHandlePermanent(last);
+            ::DestroyWindow(last);
+        }
+        CNotingPage::OnDestroy();
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CLastWindowPage, CNotingPage)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+class BrokenPage : public SheetTest, public testing::WithParamInterface<UINT> {};
+
+/// Where a page cannot be created, some systems close the sheet.
+TEST_P(BrokenPage, GetsNoOtherWindow)
 {
-    CNotingPage broken("broken", log, IDD_BROKEN);
-    sheet.AddPage(&one);
+    CLastWindowPage first("first", log);
+    CNotingPage broken("broken", log, GetParam());
+    sheet.AddPage(&first);
     sheet.AddPage(&broken);
     Modal open(sheet, L"Параметры");
-    Turn(open.window, 1); // some systems close the sheet then
+    Turn(open.window, 1);
     EXPECT_EQ(nullptr, broken.m_hWnd);
-    OnUi([&] {
-        const HWND next = CreateWindow(L"STATIC", L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
-        EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(next));
-        ::DestroyWindow(next);
-    });
     if (IsWindow(open.window))
         ui::Click(open.window, IDCANCEL);
     EXPECT_EQ(IDCANCEL, open.Result());
+    EXPECT_EQ(2, first.windows);
+    EXPECT_EQ(nullptr, first.owner);
     EXPECT_EQ(0, std::count(log.begin(), log.end(), "broken init"));
 }
+
+TEST_P(BrokenPage, DoesNotEndInOkAsTheFirstOfItsSheet)
+{
+    CNotingPage broken("broken", log, GetParam());
+    sheet.AddPage(&broken);
+    EXPECT_NE(IDOK, ui::On([this] { return sheet.DoModal(); }));
+    EXPECT_EQ(nullptr, broken.m_hWnd);
+    EXPECT_EQ(nullptr, sheet.m_hWnd);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sheet, BrokenPage, testing::Values(UINT{IDD_BROKEN}, UINT{IDD_UNKNOWN_CLASS}));
 
 } // namespace

@@ -10,6 +10,7 @@
 #define IDD_PAGE             1030
 #define IDD_PAGE_WITH_TITLE  1031
 #define IDD_BROKEN           1040
+#define IDD_UNKNOWN_CLASS    1041
 #define IDD_NOWHERE          1099
 
 #define IDC_NUMBER           1101
