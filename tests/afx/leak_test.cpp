@@ -183,4 +183,62 @@ TEST(Leaks, NoneByPropertySheets)
     });
 }
 
+/// Asks for the object of whatever window a message names.
+class CAskingWindow : public CWnd {
+protected:
+    LRESULT OnAsk(WPARAM window, LPARAM) { return FromHandle(reinterpret_cast<HWND>(window)) != nullptr; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CAskingWindow, CWnd)
+    ON_MESSAGE(WM_APP, &CAskingWindow::OnAsk)
+END_MESSAGE_MAP()
+
+HWND MakeBareWindow()
+{
+    return CreateWindow(L"STATIC", L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+}
+
+TEST(Leaks, NoneByTemporaryObjectsOfMessages)
+{
+    CAskingWindow asking;
+    OnUi(
+        [&] { ASSERT_TRUE(asking.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0)); });
+    ExpectNothingLeft(150, [&] {
+        const HWND window = MakeBareWindow();
+        ASSERT_TRUE(asking.SendMessage(WM_APP, reinterpret_cast<WPARAM>(window)));
+        ::DestroyWindow(window);
+    });
+    OnUi([&] { asking.DestroyWindow(); });
+}
+
+TEST(Leaks, NoneByTemporaryObjectsOutsideOfMessages)
+{
+    ExpectNothingLeft(150, [] {
+        const HWND window = MakeBareWindow();
+        ASSERT_NE(nullptr, CWnd::FromHandle(window));
+        ::DestroyWindow(window);
+    });
+}
+
+TEST(Leaks, NoneByTemporaryObjectsOnceTheMessageLoopGoesOn)
+{
+    constexpr size_t kWindows = 50;
+    OnUi([] {
+        CWinApp application(L"Проверка");
+        std::vector<HWND> windows;
+        for (size_t index = 0; index < kWindows; ++index)
+            windows.push_back(MakeBareWindow());
+        for (const HWND window : windows)
+            ASSERT_NE(nullptr, CWnd::FromHandle(window));
+        const Memory before = UsedMemory();
+        PostThreadMessage(GetCurrentThreadId(), WM_NULL, 0, 0);
+        PostQuitMessage(0);
+        application.Run();
+        EXPECT_LE(UsedMemory().blocks + kWindows, before.blocks);
+        for (const HWND window : windows)
+            ::DestroyWindow(window);
+    });
+}
+
 } // namespace
