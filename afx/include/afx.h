@@ -131,45 +131,45 @@ template <> struct AfxCharTraits<wchar_t> {
 
 AFX_CLASS bool AfxLoadText(UINT id, std::wstring& text);
 
-/// A string value. Indexes count characters; a null pointer counts as the empty text.
+/// A string value. Indexes and lengths count characters, negative ones as 0; a null pointer counts as the empty text.
 template <class Char> class CStringT {
     using Traits = AfxCharTraits<Char>;
     using Text = std::basic_string<Char>;
 
 public:
     CStringT() = default;
-    CStringT(const Char* text) : m_text(text ? text : Empty_()) {}
-    CStringT(const Char* text, int length) : m_text(text, static_cast<size_t>(length)) {}
+    CStringT(const Char* text) : m_text(OrEmpty(text)) {}
+    CStringT(const Char* text, int length) : m_text(OrEmpty(text), text ? Count(length) : 0) {}
     CStringT(const typename Traits::Other* text) : m_text(text ? Traits::Convert(text) : Text()) {}
     explicit CStringT(const CStringT<typename Traits::Other>& text) : m_text(Traits::Convert(text.GetString())) {}
-    CStringT(Char character, int repeat = 1) : m_text(static_cast<size_t>(repeat), character) {}
+    CStringT(Char character, int repeat = 1) : m_text(Count(repeat), character) {}
 
     operator const Char*() const { return m_text.c_str(); }
     const Char* GetString() const { return m_text.c_str(); }
     int GetLength() const { return static_cast<int>(m_text.size()); }
     BOOL IsEmpty() const { return m_text.empty(); }
     void Empty() { m_text.clear(); }
-    Char GetAt(int index) const { return m_text.at(static_cast<size_t>(index)); }
+    /// The character at a position, the terminator at any that the text does not have.
+    Char GetAt(int index) const { return index >= 0 && index < GetLength() ? m_text[Count(index)] : Char{}; }
 
     CStringT Left(int count) const { return Mid(0, count); }
     CStringT Right(int count) const { return Mid(GetLength() - count, count); }
     CStringT Mid(int first) const { return Mid(first, GetLength()); }
     CStringT Mid(int first, int count) const
     {
-        const int start = first < 0 ? 0 : first;
-        if (count <= 0 || start >= GetLength())
-            return CStringT();
         CStringT part;
-        part.m_text = m_text.substr(static_cast<size_t>(start), static_cast<size_t>(count));
+        if (first < GetLength())
+            part.m_text = m_text.substr(Count(first), Count(count));
         return part;
     }
     /// Position of the first match at or after `start`, -1 where there is none.
-    int Find(const Char* part, int start = 0) const { return Position(m_text.find(part, static_cast<size_t>(start))); }
-    int Find(Char part, int start = 0) const { return Position(m_text.find(part, static_cast<size_t>(start))); }
+    int Find(const Char* part, int start = 0) const { return Position(m_text.find(OrEmpty(part), Count(start))); }
+    int Find(Char part, int start = 0) const { return Position(m_text.find(part, Count(start))); }
     int ReverseFind(Char part) const { return Position(m_text.rfind(part)); }
 
-    int Compare(const Char* other) const { return m_text.compare(other); }
-    int CompareNoCase(const Char* other) const { return Traits::CompareNoCase(m_text.c_str(), other); }
+    int Compare(const Char* other) const { return m_text.compare(OrEmpty(other)); }
+    /// Compares as the user's language orders, upper and lower case alike.
+    int CompareNoCase(const Char* other) const { return Traits::CompareNoCase(m_text.c_str(), OrEmpty(other)); }
     CStringT& MakeUpper()
     {
         Traits::Upper(m_text.data(), static_cast<DWORD>(m_text.size()));
@@ -185,11 +185,11 @@ public:
         va_copy(measured, arguments);
         const int length = Traits::FormattedLength(format, measured);
         va_end(measured);
-        Text text(length > 0 ? static_cast<size_t>(length) + 1 : 1, Char{});
+        Text text(Count(length) + 1, Char{});
         if (length > 0)
             Traits::Print(text.data(), text.size(), format, arguments);
         va_end(arguments);
-        text.resize(length > 0 ? static_cast<size_t>(length) : 0);
+        text.resize(Count(length));
         m_text = text;
     }
 
@@ -206,13 +206,13 @@ public:
     Char* GetBuffer(int length)
     {
         if (length > GetLength())
-            m_text.resize(static_cast<size_t>(length));
+            m_text.resize(Count(length));
         return m_text.data();
     }
     /// Ends a GetBuffer: the text is `length` long, or runs to its first terminator when that is -1.
     void ReleaseBuffer(int length = -1)
     {
-        m_text.resize(length >= 0 ? static_cast<size_t>(length) : std::char_traits<Char>::length(m_text.c_str()));
+        m_text.resize(length >= 0 ? Count(length) : std::char_traits<Char>::length(m_text.c_str()));
     }
 
     CStringT& operator+=(const CStringT& other)
@@ -222,7 +222,7 @@ public:
     }
     CStringT& operator+=(const Char* other)
     {
-        m_text += other;
+        m_text += OrEmpty(other);
         return *this;
     }
     CStringT& operator+=(Char other)
@@ -235,15 +235,16 @@ public:
     friend CStringT operator+(CStringT a, const Char* b) { return a += b; }
     friend CStringT operator+(const Char* a, const CStringT& b) { return CStringT(a) += b; }
     friend bool operator==(const CStringT& a, const CStringT& b) { return a.m_text == b.m_text; }
-    friend bool operator==(const CStringT& a, const Char* b) { return a.m_text == b; }
+    friend bool operator==(const CStringT& a, const Char* b) { return a.m_text == OrEmpty(b); }
     friend bool operator<(const CStringT& a, const CStringT& b) { return a.m_text < b.m_text; }
 
 private:
-    static const Char* Empty_()
+    static const Char* OrEmpty(const Char* text)
     {
         static const Char empty{};
-        return &empty;
+        return text ? text : &empty;
     }
+    static size_t Count(int count) { return count < 0 ? 0 : static_cast<size_t>(count); }
     static int Position(size_t found) { return found == Text::npos ? -1 : static_cast<int>(found); }
 
     Text m_text;

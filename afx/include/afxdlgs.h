@@ -43,10 +43,11 @@ protected:
 
 private:
     friend class CPropertySheet;
-    PROPSHEETPAGEW Prepare();
+    bool Prepare(CPropertySheet& sheet, PROPSHEETPAGEW& page);
     static UINT CALLBACK PageCallback(HWND window, UINT message, PROPSHEETPAGEW* page);
 
     CString m_caption;
+    CPropertySheet* m_sheet = nullptr; ///< while it shows this page
     bool m_activatedBefore = false;
 };
 
@@ -58,15 +59,16 @@ public:
 
     PROPSHEETHEADERW m_psh{}; ///< adjust before the sheet is shown
 
-    void AddPage(CPropertyPage* page);
+    void AddPage(CPropertyPage* page); ///< each page once
     int GetPageCount() const;
-    CPropertyPage* GetPage(int index) const;
+    CPropertyPage* GetPage(int index) const; ///< null where there is none
     CPropertyPage* GetActivePage() const;
     BOOL SetActivePage(int index);
-    BOOL PressButton(int button); ///< one of PSBTN_OK, PSBTN_CANCEL, PSBTN_APPLYNOW, PSBTN_HELP
+    void PressButton(int button); ///< one of PSBTN_OK, PSBTN_CANCEL, PSBTN_APPLYNOW, PSBTN_HELP
     CTabCtrl* GetTabControl() const;
 
-    /// Shows the sheet until it closes: IDOK, IDCANCEL, or -1 where it could not be created.
+    /// Shows the sheet until it closes: IDOK, IDCANCEL, or -1 where it could not be created, as when it has no pages
+    /// or one of them lacks its template.
     virtual INT_PTR DoModal();
     virtual BOOL OnInitDialog();
 
@@ -75,6 +77,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    INT_PTR Show();
+
     CString m_caption;
     CWnd* m_parent;
     std::vector<CPropertyPage*> m_pages;
@@ -100,4 +104,5 @@ private:
     CString m_defaultExtension;
     std::wstring m_filter;
     std::vector<wchar_t> m_path;
+    CWnd* m_parent;
 };

@@ -9,13 +9,13 @@ class CDynLinkLibrary;
 struct AFX_EXTENSION_MODULE {
     BOOL bInitialized = FALSE;
     HMODULE hModule = nullptr;
-    CDynLinkLibrary* pFirstLibrary = nullptr; ///< the DLL's places in the resource chain
 };
 
 /// Starts an extension DLL; call it on process attach. FALSE where `module` is no module.
 AFX_CLASS BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE module);
 
-/// Ends an extension DLL; call it on process detach. Deletes the CDynLinkLibrary objects that it made.
+/// Ends an extension DLL; call it on process detach. Deletes the CDynLinkLibrary objects that it made, and takes the
+/// DLL's resources out of the chain.
 AFX_CLASS void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state);
 
 /// One extension DLL's place in the resource chain. Made with `new`; AfxTermExtensionModule deletes it.
@@ -26,6 +26,5 @@ public:
     ~CDynLinkLibrary() override;
 
     HMODULE m_hModule;
-    CDynLinkLibrary* m_pNextDLL;                ///< next in the resource chain
-    CDynLinkLibrary* m_pNextOfModule = nullptr; ///< next that the same DLL made
+    CDynLinkLibrary* m_pNextDLL; ///< next in the resource chain
 };

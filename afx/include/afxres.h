@@ -3,7 +3,7 @@
 
 #define IDC_STATIC (-1)
 
-// The Help command: a page, dialog or frame receives it for F1 and for every Help button.
+// The Help command. A page receives it for the Help button of its sheet.
 #define ID_HELP 0xE146
 
 // Standard prompts of the data exchange. An application may bring its own wording of them.

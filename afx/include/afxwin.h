@@ -35,12 +35,11 @@ struct CRect : RECT {
 
 using AFX_HANDLER = LRESULT (*)(CCmdTarget& target, WPARAM wParam, LPARAM lParam);
 
-/// One row of a message map: a message, or a notification code of the commands firstId to lastId.
+/// One row of a message map: a message, or a command or control notification by its code and id.
 struct AFX_MSGMAP_ENTRY {
     UINT nMessage;
     UINT nCode;
     UINT nID;
-    UINT nLastID;
     AFX_HANDLER pfn; ///< null ends the map
 };
 
@@ -74,7 +73,7 @@ protected:                                                                      
 
 #define END_MESSAGE_MAP()                                                                                              \
     {                                                                                                                  \
-        0, 0, 0, 0, nullptr                                                                                            \
+        0, 0, 0, nullptr                                                                                               \
     }                                                                                                                  \
     }                                                                                                                  \
     ;                                                                                                                  \
@@ -120,20 +119,20 @@ template <auto handler> struct AfxThunk {
     }
 };
 
-#define ON_CONTROL(code, id, memberFxn) {WM_COMMAND, code, id, id, &AfxThunk<memberFxn>::Command},
+#define ON_CONTROL(code, id, memberFxn) {WM_COMMAND, code, id, &AfxThunk<memberFxn>::Command},
 #define ON_COMMAND(id, memberFxn) ON_CONTROL(CN_COMMAND, id, memberFxn)
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
 #define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
 #define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
 #define ON_EN_KILLFOCUS(id, memberFxn) ON_CONTROL(EN_KILLFOCUS, id, memberFxn)
 #define ON_LBN_DBLCLK(id, memberFxn) ON_CONTROL(LBN_DBLCLK, id, memberFxn)
-#define ON_MESSAGE(message, memberFxn) {message, 0, 0, 0, &AfxThunk<memberFxn>::Message},
-#define ON_WM_CHAR() {WM_CHAR, 0, 0, 0, &AfxThunk<&ThisClass::OnChar>::Key},
-#define ON_WM_CLOSE() {WM_CLOSE, 0, 0, 0, &AfxThunk<&ThisClass::OnClose>::Command},
-#define ON_WM_DESTROY() {WM_DESTROY, 0, 0, 0, &AfxThunk<&ThisClass::OnDestroy>::Command},
-#define ON_WM_SIZE() {WM_SIZE, 0, 0, 0, &AfxThunk<&ThisClass::OnSize>::Size},
-#define ON_WM_NCCREATE() {WM_NCCREATE, 0, 0, 0, &AfxThunk<&ThisClass::OnNcCreate>::NcCreate},
-#define ON_WM_HELPINFO() {WM_HELP, 0, 0, 0, &AfxThunk<&ThisClass::OnHelpInfo>::HelpInfo},
+#define ON_MESSAGE(message, memberFxn) {message, 0, 0, &AfxThunk<memberFxn>::Message},
+#define ON_WM_CHAR() {WM_CHAR, 0, 0, &AfxThunk<&ThisClass::OnChar>::Key},
+#define ON_WM_CLOSE() {WM_CLOSE, 0, 0, &AfxThunk<&ThisClass::OnClose>::Command},
+#define ON_WM_DESTROY() {WM_DESTROY, 0, 0, &AfxThunk<&ThisClass::OnDestroy>::Command},
+#define ON_WM_SIZE() {WM_SIZE, 0, 0, &AfxThunk<&ThisClass::OnSize>::Size},
+#define ON_WM_NCCREATE() {WM_NCCREATE, 0, 0, &AfxThunk<&ThisClass::OnNcCreate>::NcCreate},
+#define ON_WM_HELPINFO() {WM_HELP, 0, 0, &AfxThunk<&ThisClass::OnHelpInfo>::HelpInfo},
 
 /// Base of whatever receives commands.
 class AFX_CLASS CCmdTarget : public CObject {
@@ -164,16 +163,20 @@ public:
     operator HWND() const { return m_hWnd; }
 
     /// The object that stands for a window: its own where it has one, else a temporary one that lives until the
-    /// outermost message being processed is done. Null for null.
+    /// outermost message being processed is done; made outside of any message, until the application's message loop
+    /// goes on or the window is gone. Null for null.
     static CWnd* FromHandle(HWND window);
     static CWnd* FromHandlePermanent(HWND window); ///< null where the window has no object of its own
+    /// Makes this the window's own object. FALSE where either has its counterpart already.
     BOOL Attach(HWND window);
+    /// Parts object and window; the window goes on as the one that it was without the object.
     HWND Detach();
+    /// Attaches, and puts the object's handlers before the window's own procedure.
     BOOL SubclassWindow(HWND window);
     BOOL SubclassDlgItem(UINT id, CWnd* parent);
 
     BOOL CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect, CWnd* parent,
-                  HMENU menuOrId, void* parameter = nullptr);
+                  UINT id, void* parameter = nullptr);
     virtual BOOL DestroyWindow();
 
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
@@ -184,7 +187,7 @@ public:
     int GetDlgCtrlID() const;
     CWnd* GetParent() const;
     CWnd* GetWindow(UINT relation) const;
-    BOOL CheckDlgButton(int id, UINT check) const;
+    void CheckDlgButton(int id, UINT check) const;
     UINT IsDlgButtonChecked(int id) const;
     void SetDlgItemText(int id, LPCTSTR text) const;
 
@@ -200,8 +203,6 @@ public:
     void UpdateWindow();
     void Invalidate(BOOL erase = TRUE);
     BOOL ModifyStyleEx(DWORD remove, DWORD add);
-    HFONT GetFont() const;
-    void SetFont(HFONT font, BOOL redraw = TRUE);
     void GetClientRect(RECT* rect) const;
     void GetWindowRect(RECT* rect) const;
     void MoveWindow(int x, int y, int width, int height, BOOL repaint = TRUE);
@@ -209,7 +210,8 @@ public:
     void ClientToScreen(POINT* point) const;
     int MessageBox(LPCTSTR text, LPCTSTR caption = nullptr, UINT type = MB_OK);
 
-    /// The id of the child at a point of the client area, -1 where there is none.
+    /// The id of the shown child at a point of the client area, -1 where there is none. A group box counts where no
+    /// other control lies; a control without an id of its own (IDC_STATIC) counts nowhere.
     virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFOW* info) const;
 
     /// Moves data from the controls to the object (TRUE) or back (FALSE) with DoDataExchange. FALSE when a control
@@ -238,16 +240,11 @@ protected:
     void OnSize(UINT type, int width, int height);
 
 private:
-    friend AFX_CLASS LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    friend AFX_CLASS LRESULT CALLBACK AfxCbtProc(int code, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
     WNDPROC m_super = nullptr; ///< the window procedure that was there before this object's
 };
 
-AFX_CLASS LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-/// Attaches `window` to the next window that this thread creates, before that window's first message.
-AFX_CLASS void AfxHookWindowCreate(CWnd* window);
-/// Ends AfxHookWindowCreate. TRUE when a window has been attached.
-AFX_CLASS BOOL AfxUnhookWindowCreate();
 /// A window class of the application with the given parts; its name stays valid until the next call.
 AFX_CLASS LPCTSTR AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
                                       HICON icon = nullptr);
@@ -280,7 +277,7 @@ public:
     int SetCurSel(int index);
     int AddString(LPCTSTR text);
     void ResetContent();
-    int GetLBText(int index, CString& text) const;
+    void GetLBText(int index, CString& text) const; ///< the empty text where there is no such item
     DWORD_PTR GetItemData(int index) const;
     int SetItemData(int index, DWORD_PTR data);
     int FindStringExact(int start, LPCTSTR text) const;
@@ -307,9 +304,10 @@ public:
     CDialog() = default;
     explicit CDialog(UINT templateId, CWnd* parent = nullptr);
 
-    /// Shows the dialog until EndDialog; its result, or -1 where it could not be created.
+    /// Shows the dialog until EndDialog; its result, or -1 where it could not be created or is shown already.
     virtual INT_PTR DoModal();
-    virtual BOOL Create(UINT templateId, CWnd* parent = nullptr); ///< shows it modelessly
+    /// Creates it modelessly; it shows itself where the template says WS_VISIBLE.
+    virtual BOOL Create(UINT templateId, CWnd* parent = nullptr);
     void EndDialog(int result);
 
     /// Loads the data into the controls. TRUE leaves the first focus to the system.
@@ -331,7 +329,9 @@ protected:
 class AFX_CLASS CFrameWnd : public CWnd {
     DECLARE_DYNAMIC(CFrameWnd)
 public:
-    BOOL Create(LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect, UINT menuId = 0);
+    /// FALSE where the window cannot be created or the menu is not found in the resource chain.
+    BOOL Create(LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect, CWnd* parent = nullptr,
+                LPCTSTR menuName = nullptr);
 
 protected:
     void PostNcDestroy() override;
@@ -358,12 +358,17 @@ public:
     [[noreturn]] void Fail();
 };
 
+/// Saving, a text that is no whole number of 32 bits is refused with AFX_IDP_PARSE_INT.
 AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, int& value);
 AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, CString& value);
+/// A value that is no check state shows as off.
 AFX_CLASS void DDX_Check(CDataExchange* exchange, int id, int& value);
-/// `id`: the first button of the group. -1 stands for no button on.
+/// `id`: the first button of the group, which ends before the next control with WS_GROUP. The value counts the
+/// group's radio buttons from 0; -1 stands for no button on.
 AFX_CLASS void DDX_Radio(CDataExchange* exchange, int id, int& value);
+/// Nothing is selected for an index that the list does not have.
 AFX_CLASS void DDX_CBIndex(CDataExchange* exchange, int id, int& index);
+/// Makes `control` the object of the dialog's control, unless it has a window already.
 AFX_CLASS void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
 
 // ---- the application ---------------------------------------------------------------------------------------

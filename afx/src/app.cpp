@@ -27,15 +27,15 @@ int CWinApp::ExitInstance()
 }
 
 namespace {
-/// Offers the message to the windows from the one it is for up to its top-level parent, then to the main window.
+/// Offers the message to the windows from the one it is for upward, and to the main window last.
 bool PreTranslate(MSG& message)
 {
+    CWnd* const main = AfxGetMainWnd();
     for (HWND window = message.hwnd; window; window = GetParent(window)) {
         CWnd* const object = CWnd::FromHandlePermanent(window);
-        if (object && object->PreTranslateMessage(&message))
+        if (object && object != main && object->PreTranslateMessage(&message))
             return true;
     }
-    CWnd* const main = AfxGetMainWnd();
     return main && main->m_hWnd && main->PreTranslateMessage(&message);
 }
 } // namespace
@@ -44,20 +44,19 @@ int CWinApp::Run()
 {
     MSG message{};
     while (GetMessage(&message, nullptr, 0, 0) > 0) {
-        if (PreTranslate(message))
-            continue;
-        TranslateMessage(&message);
-        DispatchMessage(&message);
+        if (!PreTranslate(message)) {
+            TranslateMessage(&message);
+            DispatchMessage(&message);
+        }
+        if (AfxGetState().messageDepth == 0)
+            AfxDropTemporaries();
     }
     return static_cast<int>(message.wParam);
 }
 
 int CWinApp::DoMessageBox(LPCTSTR prompt, UINT type, UINT)
 {
-    HWND owner = GetActiveWindow();
-    if (!owner && AfxGetMainWnd() && AfxGetMainWnd()->m_hWnd)
-        owner = GetLastActivePopup(AfxGetMainWnd()->m_hWnd);
-    return ::MessageBox(owner, prompt, m_pszAppName, type);
+    return ::MessageBox(AfxModalOwner(nullptr), prompt, m_pszAppName, type);
 }
 
 CWinApp* AfxGetApp()
@@ -71,15 +70,23 @@ CWnd* AfxGetMainWnd()
     return application ? application->m_pMainWnd : nullptr;
 }
 
+HWND AfxModalOwner(const CWnd* parent)
+{
+    if (parent && parent->m_hWnd)
+        return GetAncestor(parent->m_hWnd, GA_ROOT);
+    if (const HWND active = GetActiveWindow())
+        return active;
+    const CWnd* const main = AfxGetMainWnd();
+    return main && main->m_hWnd ? GetLastActivePopup(main->m_hWnd) : nullptr;
+}
+
 int AfxWinMain()
 {
     CWinApp* const application = AfxGetApp();
     if (!application)
         return -1;
-    if (!application->InitInstance()) {
-        application->ExitInstance();
-        return -1;
-    }
+    if (!application->InitInstance())
+        return application->ExitInstance();
     const int result = application->Run();
     const int exit = application->ExitInstance();
     return exit ? exit : result;
@@ -93,7 +100,7 @@ int AfxMessageBox(LPCTSTR text, UINT type, UINT helpId)
     }
     CWinApp* const application = AfxGetApp();
     return application ? application->DoMessageBox(text, type, helpId)
-                       : ::MessageBox(GetActiveWindow(), text, nullptr, type);
+                       : ::MessageBox(AfxModalOwner(nullptr), text, nullptr, type);
 }
 
 int AfxMessageBox(UINT promptId, UINT type, UINT helpId)

@@ -82,16 +82,12 @@ void CComboBox::ResetContent()
     Ask(*this, CB_RESETCONTENT);
 }
 
-int CComboBox::GetLBText(int index, CString& text) const
+void CComboBox::GetLBText(int index, CString& text) const
 {
     const int length = Ask(*this, CB_GETLBTEXTLEN, Index(index));
-    if (length < 0) {
-        text.Empty();
-        return CB_ERR;
-    }
-    const int copied = Ask(*this, CB_GETLBTEXT, Index(index), Text(text.GetBuffer(length + 1)));
-    text.ReleaseBuffer(copied < 0 ? 0 : copied);
-    return copied;
+    if (length >= 0)
+        Ask(*this, CB_GETLBTEXT, Index(index), Text(text.GetBuffer(length)));
+    text.ReleaseBuffer(length < 0 ? 0 : length);
 }
 
 DWORD_PTR CComboBox::GetItemData(int index) const

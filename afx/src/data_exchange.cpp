@@ -155,8 +155,8 @@ void DDX_CBIndex(CDataExchange* exchange, int id, int& index)
     const HWND control = exchange->PrepareCtrl(id);
     if (exchange->m_bSaveAndValidate)
         index = static_cast<int>(::SendMessage(control, CB_GETCURSEL, 0, 0));
-    else
-        ::SendMessage(control, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    else if (::SendMessage(control, CB_SETCURSEL, static_cast<WPARAM>(index), 0) == CB_ERR)
+        ::SendMessage(control, CB_SETCURSEL, static_cast<WPARAM>(-1), 0); // not every system does it by itself
 }
 
 void DDX_Control(CDataExchange* exchange, int id, CWnd& control)

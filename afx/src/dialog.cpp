@@ -22,18 +22,6 @@ const DLGTEMPLATE* FindTemplate(UINT id)
     const HGLOBAL loaded = resource ? LoadResource(module, resource) : nullptr;
     return loaded ? static_cast<const DLGTEMPLATE*>(LockResource(loaded)) : nullptr;
 }
-
-/// The top-level window that a modal dialog of `parent` disables and returns to.
-HWND SafeOwner(const CWnd* parent)
-{
-    if (parent && parent->m_hWnd)
-        return GetAncestor(parent->m_hWnd, GA_ROOT);
-    const HWND active = GetActiveWindow();
-    if (active)
-        return active;
-    const CWnd* const main = AfxGetMainWnd();
-    return main && main->m_hWnd ? GetLastActivePopup(main->m_hWnd) : nullptr;
-}
 } // namespace
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
@@ -46,26 +34,26 @@ CDialog::CDialog(UINT templateId, CWnd* parent) : m_templateId(templateId), m_pa
 
 INT_PTR CDialog::DoModal()
 {
-    const DLGTEMPLATE* const dialogTemplate = FindTemplate(m_templateId);
+    const DLGTEMPLATE* const dialogTemplate = m_hWnd ? nullptr : FindTemplate(m_templateId);
     if (!dialogTemplate)
         return -1;
-    AfxHookWindowCreate(this);
+    AfxAwaitWindow(this);
     const INT_PTR result =
-        DialogBoxIndirectParam(AfxGetInstanceHandle(), dialogTemplate, SafeOwner(m_parent), DialogProc, 0);
-    AfxUnhookWindowCreate();
+        DialogBoxIndirectParam(AfxGetInstanceHandle(), dialogTemplate, AfxModalOwner(m_parent), DialogProc, 0);
+    AfxStopAwaiting();
     return result;
 }
 
 BOOL CDialog::Create(UINT templateId, CWnd* parent)
 {
-    const DLGTEMPLATE* const dialogTemplate = FindTemplate(templateId);
+    const DLGTEMPLATE* const dialogTemplate = m_hWnd ? nullptr : FindTemplate(templateId);
     if (!dialogTemplate)
         return FALSE;
     m_templateId = templateId;
-    AfxHookWindowCreate(this);
+    AfxAwaitWindow(this);
     const HWND window = CreateDialogIndirectParam(AfxGetInstanceHandle(), dialogTemplate,
                                                   parent ? parent->m_hWnd : nullptr, DialogProc, 0);
-    AfxUnhookWindowCreate();
+    AfxStopAwaiting();
     return window != nullptr;
 }
 
@@ -121,13 +109,17 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
-BOOL CFrameWnd::Create(LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect, UINT menuId)
+BOOL CFrameWnd::Create(LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect, CWnd* parent,
+                       LPCTSTR menuName)
 {
-    const LPCTSTR name = MAKEINTRESOURCE(menuId);
     HMENU menu = nullptr;
-    if (menuId)
-        menu = LoadMenu(AfxFindResourceHandle(name, RT_MENU), name);
-    return CreateEx(0, className, windowName, style, rect, nullptr, menu);
+    if (menuName && !(menu = LoadMenu(AfxFindResourceHandle(menuName, RT_MENU), menuName)))
+        return FALSE;
+    if (!CreateEx(0, className, windowName, style, rect, parent, 0)) {
+        DestroyMenu(menu);
+        return FALSE;
+    }
+    return !menu || ::SetMenu(m_hWnd, menu);
 }
 
 void CFrameWnd::OnDestroy()

@@ -91,10 +91,11 @@ BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE module)
 
 void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state)
 {
-    while (state.pFirstLibrary) {
-        CDynLinkLibrary* const library = state.pFirstLibrary;
-        state.pFirstLibrary = library->m_pNextOfModule;
-        delete library;
+    for (CDynLinkLibrary* library = g_firstLibrary; library;) {
+        CDynLinkLibrary* const next = library->m_pNextDLL;
+        if (library->m_hModule == state.hModule)
+            delete library;
+        library = next;
     }
     if (g_state.resources == state.hModule)
         g_state.resources = nullptr;
@@ -103,11 +104,9 @@ void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state)
 
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CObject)
 
-CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state)
-    : m_hModule(state.hModule), m_pNextDLL(g_firstLibrary), m_pNextOfModule(state.pFirstLibrary)
+CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state) : m_hModule(state.hModule), m_pNextDLL(g_firstLibrary)
 {
     g_firstLibrary = this;
-    state.pFirstLibrary = this;
 }
 
 CDynLinkLibrary::~CDynLinkLibrary()

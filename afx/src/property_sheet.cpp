@@ -1,6 +1,10 @@
 // Property pages and sheets.
 #include <afxdlgs.h>
 
+#include <algorithm>
+
+#include "state.h"
+
 IMPLEMENT_DYNAMIC(CPropertyPage, CDialog)
 IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
 
@@ -8,12 +12,6 @@ namespace {
 INT_PTR CALLBACK PageProc(HWND, UINT, WPARAM, LPARAM)
 {
     return FALSE;
-}
-
-CPropertySheet* SheetOf(const CPropertyPage& page)
-{
-    const HWND parent = page.m_hWnd ? GetParent(page.m_hWnd) : nullptr;
-    return dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(parent));
 }
 } // namespace
 
@@ -30,40 +28,44 @@ CPropertyPage::CPropertyPage(UINT templateId, UINT caption) : CDialog(templateId
         m_psp.dwFlags |= PSP_USETITLE;
 }
 
-/// The page as the system wants it, with the template's module filled in.
-PROPSHEETPAGEW CPropertyPage::Prepare()
+/// Makes the page as the system wants it, with the template's module filled in. False where it cannot be shown: it
+/// is shown already, or has no template.
+bool CPropertyPage::Prepare(CPropertySheet& sheet, PROPSHEETPAGEW& page)
 {
-    PROPSHEETPAGEW page = m_psp;
+    if (m_hWnd)
+        return false;
+    page = m_psp;
     page.pszTemplate = MAKEINTRESOURCE(m_templateId);
     if (!FindResource(page.hInstance, page.pszTemplate, RT_DIALOG))
         page.hInstance = AfxFindResourceHandle(page.pszTemplate, RT_DIALOG);
-    page.pszTitle = m_caption;
+    if (!m_caption.IsEmpty())
+        page.pszTitle = m_caption;
     page.lParam = reinterpret_cast<LPARAM>(this);
+    m_sheet = &sheet;
     m_activatedBefore = false;
-    return page;
+    return FindResource(page.hInstance, page.pszTemplate, RT_DIALOG) != nullptr;
 }
 
 UINT CALLBACK CPropertyPage::PageCallback(HWND, UINT message, PROPSHEETPAGEW* page)
 {
-    // The page's dialog is the next window to be created.
-    if (message == PSPCB_CREATE)
-        AfxHookWindowCreate(reinterpret_cast<CPropertyPage*>(page->lParam));
+    if (message == PSPCB_CREATE) {
+        auto* const object = reinterpret_cast<CPropertyPage*>(page->lParam);
+        AfxAwaitWindow(object, object->m_sheet->m_hWnd);
+    }
     return TRUE;
 }
 
 void CPropertyPage::SetModified(BOOL changed)
 {
-    if (m_hWnd)
-        GetParent()->SendMessage(changed ? PSM_CHANGED : PSM_UNCHANGED, reinterpret_cast<WPARAM>(m_hWnd));
+    if (m_hWnd && m_sheet)
+        m_sheet->SendMessage(changed ? PSM_CHANGED : PSM_UNCHANGED, reinterpret_cast<WPARAM>(m_hWnd));
 }
 
 LRESULT CPropertyPage::QuerySiblings(WPARAM wParam, LPARAM lParam)
 {
-    const CPropertySheet* const sheet = SheetOf(*this);
-    if (!sheet)
-        return 0;
-    for (int index = 0; index < sheet->GetPageCount(); ++index) {
-        const CPropertyPage* const page = sheet->GetPage(index);
+    const int pages = m_sheet ? m_sheet->GetPageCount() : 0;
+    for (int index = 0; index < pages; ++index) {
+        const CPropertyPage* const page = m_sheet->GetPage(index);
         if (page == this || !page->m_hWnd)
             continue;
         if (const LRESULT answer = page->SendMessage(PSM_QUERYSIBLINGS, wParam, lParam))
@@ -136,7 +138,8 @@ CPropertySheet::CPropertySheet(LPCTSTR caption, CWnd* parent, UINT firstPage) : 
 
 void CPropertySheet::AddPage(CPropertyPage* page)
 {
-    m_pages.push_back(page);
+    if (std::find(m_pages.begin(), m_pages.end(), page) == m_pages.end())
+        m_pages.push_back(page);
 }
 
 int CPropertySheet::GetPageCount() const
@@ -146,7 +149,7 @@ int CPropertySheet::GetPageCount() const
 
 CPropertyPage* CPropertySheet::GetPage(int index) const
 {
-    return m_pages.at(static_cast<size_t>(index));
+    return index >= 0 && index < GetPageCount() ? m_pages[static_cast<size_t>(index)] : nullptr;
 }
 
 CPropertyPage* CPropertySheet::GetActivePage() const
@@ -163,9 +166,9 @@ BOOL CPropertySheet::SetActivePage(int index)
     return static_cast<BOOL>(SendMessage(PSM_SETCURSEL, static_cast<WPARAM>(index)));
 }
 
-BOOL CPropertySheet::PressButton(int button)
+void CPropertySheet::PressButton(int button)
 {
-    return static_cast<BOOL>(SendMessage(PSM_PRESSBUTTON, static_cast<WPARAM>(button)));
+    SendMessage(PSM_PRESSBUTTON, static_cast<WPARAM>(button));
 }
 
 CTabCtrl* CPropertySheet::GetTabControl() const
@@ -176,24 +179,33 @@ CTabCtrl* CPropertySheet::GetTabControl() const
 
 INT_PTR CPropertySheet::DoModal()
 {
+    if (m_hWnd || m_pages.empty())
+        return -1;
+    const INT_PTR result = Show();
+    for (CPropertyPage* page : m_pages)
+        if (page->m_sheet == this)
+            page->m_sheet = nullptr;
+    return result;
+}
+
+INT_PTR CPropertySheet::Show()
+{
     std::vector<PROPSHEETPAGEW> pages;
     for (CPropertyPage* page : m_pages)
-        pages.push_back(page->Prepare());
+        if (!page->Prepare(*this, pages.emplace_back()))
+            return -1;
 
     PROPSHEETHEADERW header = m_psh;
     header.hInstance = AfxGetInstanceHandle();
     header.pszCaption = m_caption;
     header.nPages = static_cast<UINT>(pages.size());
     header.ppsp = pages.data();
-    if (m_parent && m_parent->m_hWnd)
-        header.hwndParent = GetAncestor(m_parent->m_hWnd, GA_ROOT);
-    else
-        header.hwndParent = GetActiveWindow();
+    header.hwndParent = AfxModalOwner(m_parent);
 
     // The sheet's dialog is the first window that the call creates.
-    AfxHookWindowCreate(this);
+    AfxAwaitWindow(this);
     const INT_PTR result = PropertySheetW(&header);
-    AfxUnhookWindowCreate();
+    AfxStopAwaiting();
     if (result < 0)
         return -1;
     return result > 0 ? IDOK : IDCANCEL;

@@ -9,12 +9,26 @@ struct AfxState {
     HINSTANCE resources = nullptr; ///< set by AfxSetResourceHandle, else null
     HWND lockedOut = nullptr;      ///< the window that is exchanging data: its control notifications are ignored
     MSG currentMessage{};
-    int messageDepth = 0;   ///< window procedures entered and not yet left
-    CWnd* hooked = nullptr; ///< waits for the next window to be created
-    HHOOK hook = nullptr;
+    int messageDepth = 0;         ///< window procedures entered and not yet left
+    CWnd* awaiting = nullptr;     ///< the object whose window is about to be created
+    HWND awaitedParent = nullptr; ///< what that window is to be a child of; null where that does not matter
+    HHOOK creationHook = nullptr; ///< installed while an object waits
 };
 
 AfxState& AfxGetState();
+
+/// Attaches `object` to the next window that this thread creates, before that window's first message. With `parent`
+/// given it waits for a child window of that one.
+void AfxAwaitWindow(CWnd* object, HWND parent = nullptr);
+/// Ends AfxAwaitWindow, whether or not a window came.
+void AfxStopAwaiting();
+
+/// Drops the temporary objects that CWnd::FromHandle made; to be called where no message is being processed.
+void AfxDropTemporaries();
+
+/// The top-level window that a modal window of `parent` belongs to and returns to. Without a parent: the active
+/// window, else the main window's last pop-up, else none.
+HWND AfxModalOwner(const CWnd* parent);
 
 /// Restores a value when the scope ends.
 template <class T> class Restore {

@@ -21,24 +21,37 @@ HandleMap& PermanentMap()
 /// Objects made for windows that have none of their own. They only lend their handle and destroy nothing.
 class TemporaryMap {
 public:
+    TemporaryMap() { PermanentMap(); } // which their ends look into: it must outlive this one
     CWnd* Get(HWND window)
     {
-        std::unique_ptr<CWnd>& object = m_objects[window];
-        if (!object) {
-            object = std::make_unique<CWnd>();
-            object->m_hWnd = window;
-        }
-        return object.get();
+        const auto found = m_temporaries.find(window);
+        return found == m_temporaries.end() ? Make(window) : found->second.object.get();
     }
-    void Purge()
+    /// Drops what was made while a message was being processed. What was made outside is still in use there.
+    void DropOfMessage()
     {
-        for (auto& [window, object] : m_objects)
-            object->m_hWnd = nullptr;
-        m_objects.clear();
+        std::erase_if(m_temporaries, [](const auto& item) { return item.second.ofMessage; });
     }
+    void DropAll() { m_temporaries.clear(); }
 
 private:
-    std::unordered_map<HWND, std::unique_ptr<CWnd>> m_objects;
+    struct Temporary {
+        std::unique_ptr<CWnd> object;
+        bool ofMessage;
+    };
+
+    CWnd* Make(HWND window)
+    {
+        const bool ofMessage = AfxGetState().messageDepth > 0;
+        // Where a message loop of another kind runs, nothing else ends the objects that are made outside of messages.
+        if (!ofMessage)
+            std::erase_if(m_temporaries, [](const auto& item) { return !::IsWindow(item.first); });
+        auto object = std::make_unique<CWnd>();
+        object->m_hWnd = window;
+        return m_temporaries.emplace(window, Temporary{std::move(object), ofMessage}).first->second.object.get();
+    }
+
+    std::unordered_map<HWND, Temporary> m_temporaries;
 };
 
 TemporaryMap& Temporaries()
@@ -47,14 +60,14 @@ TemporaryMap& Temporaries()
     return map;
 }
 
-/// Counts nested window procedures; the last one out drops the temporary objects.
+/// Counts nested window procedures; the last one out drops the temporary objects made meanwhile.
 class MessageScope {
 public:
     MessageScope() { ++AfxGetState().messageDepth; }
     ~MessageScope()
     {
         if (--AfxGetState().messageDepth == 0)
-            Temporaries().Purge();
+            Temporaries().DropOfMessage();
     }
     MessageScope(const MessageScope&) = delete;
     MessageScope& operator=(const MessageScope&) = delete;
@@ -76,7 +89,7 @@ MSG MakeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 
 const AFX_MSGMAP* CCmdTarget::GetThisMessageMap()
 {
-    static const AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, 0, nullptr}};
+    static const AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, nullptr}};
     static const AFX_MSGMAP map{nullptr, entries};
     return &map;
 }
@@ -90,7 +103,7 @@ const AFX_MSGMAP_ENTRY* CCmdTarget::FindEntry(UINT message, UINT code, UINT id) 
 {
     for (const AFX_MSGMAP* map = GetMessageMap(); map; map = map->pfnGetBaseMap ? map->pfnGetBaseMap() : nullptr)
         for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->pfn; ++entry)
-            if (entry->nMessage == message && entry->nCode == code && entry->nID <= id && id <= entry->nLastID)
+            if (entry->nMessage == message && entry->nCode == code && entry->nID == id)
                 return entry;
     return nullptr;
 }
@@ -120,9 +133,14 @@ CWnd* CWnd::FromHandle(HWND window)
     return permanent ? permanent : Temporaries().Get(window);
 }
 
+void AfxDropTemporaries()
+{
+    Temporaries().DropAll();
+}
+
 BOOL CWnd::Attach(HWND window)
 {
-    if (!window || m_hWnd)
+    if (!window || m_hWnd || FromHandlePermanent(window))
         return FALSE;
     m_hWnd = window;
     PermanentMap()[window] = this;
@@ -132,78 +150,87 @@ BOOL CWnd::Attach(HWND window)
 HWND CWnd::Detach()
 {
     const HWND window = m_hWnd;
-    if (window)
+    if (m_super && GetWindowLongPtr(window, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&CWnd::WndProc))
+        SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_super));
+    if (FromHandlePermanent(window) == this)
         PermanentMap().erase(window);
     m_hWnd = nullptr;
+    m_super = nullptr;
     return window;
 }
 
 CWnd::~CWnd()
 {
-    if (!m_hWnd || FromHandlePermanent(m_hWnd) != this)
-        return;
-    if (m_super && ::IsWindow(m_hWnd)) {
-        SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_super));
-        m_super = nullptr;
-    }
-    ::DestroyWindow(Detach());
+    if (m_hWnd && FromHandlePermanent(m_hWnd) == this)
+        ::DestroyWindow(Detach());
 }
 
 BOOL CWnd::SubclassWindow(HWND window)
 {
     if (!Attach(window))
         return FALSE;
-    m_super = reinterpret_cast<WNDPROC>(SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
+    m_super = reinterpret_cast<WNDPROC>(SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WndProc)));
     return TRUE;
 }
 
 BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent)
 {
     const HWND control = parent ? ::GetDlgItem(parent->m_hWnd, static_cast<int>(id)) : nullptr;
-    return control && !FromHandlePermanent(control) ? SubclassWindow(control) : FALSE;
+    return SubclassWindow(control);
 }
 
 // ---- creation ----
 
-LRESULT CALLBACK AfxCbtProc(int code, WPARAM wParam, LPARAM lParam)
+namespace {
+bool IsAwaited(const CREATESTRUCT& created)
 {
-    AfxState& state = AfxGetState();
-    const HHOOK hook = state.hook;
-    if (code == HCBT_CREATEWND && state.hooked) {
-        CWnd* const object = state.hooked;
-        state.hooked = nullptr;
+    const HWND parent = AfxGetState().awaitedParent;
+    return !parent || (created.hwndParent == parent && (created.style & WS_CHILD));
+}
+
+LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT refused = CallNextHookEx(nullptr, code, wParam, lParam);
+    CWnd* const object = AfxGetState().awaiting;
+    if (code != HCBT_CREATEWND || refused || !object)
+        return refused;
+    if (IsAwaited(*reinterpret_cast<const CBT_CREATEWND*>(lParam)->lpcs)) {
+        AfxStopAwaiting();
         object->SubclassWindow(reinterpret_cast<HWND>(wParam));
     }
-    return CallNextHookEx(hook, code, wParam, lParam);
+    return 0;
 }
+} // namespace
 
-void AfxHookWindowCreate(CWnd* window)
+void AfxAwaitWindow(CWnd* object, HWND parent)
 {
     AfxState& state = AfxGetState();
-    if (!state.hook)
-        state.hook = SetWindowsHookEx(WH_CBT, AfxCbtProc, nullptr, GetCurrentThreadId());
-    state.hooked = window;
+    if (!state.creationHook)
+        state.creationHook = SetWindowsHookEx(WH_CBT, CreationHook, nullptr, GetCurrentThreadId());
+    state.awaiting = object;
+    state.awaitedParent = parent;
 }
 
-BOOL AfxUnhookWindowCreate()
+void AfxStopAwaiting()
 {
     AfxState& state = AfxGetState();
-    if (state.hook)
-        UnhookWindowsHookEx(state.hook);
-    state.hook = nullptr;
-    const BOOL attached = state.hooked == nullptr;
-    state.hooked = nullptr;
-    return attached;
+    if (state.creationHook)
+        UnhookWindowsHookEx(state.creationHook);
+    state.creationHook = nullptr;
+    state.awaiting = nullptr;
+    state.awaitedParent = nullptr;
 }
 
 BOOL CWnd::CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect, CWnd* parent,
-                    HMENU menuOrId, void* parameter)
+                    UINT id, void* parameter)
 {
-    AfxHookWindowCreate(this);
+    if (m_hWnd)
+        return FALSE;
+    AfxAwaitWindow(this);
     const HWND window = ::CreateWindowEx(
         exStyle, className, windowName, style, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
-        parent ? parent->m_hWnd : nullptr, menuOrId, AfxGetInstanceHandle(), parameter);
-    AfxUnhookWindowCreate();
+        parent ? parent->m_hWnd : nullptr, reinterpret_cast<HMENU>(UINT_PTR{id}), AfxGetInstanceHandle(), parameter);
+    AfxStopAwaiting();
     return window != nullptr;
 }
 
@@ -227,9 +254,9 @@ LPCTSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON
 
 // ---- the window procedure ----
 
-LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT CALLBACK CWnd::WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    CWnd* const object = CWnd::FromHandlePermanent(window);
+    CWnd* const object = FromHandlePermanent(window);
     if (!object)
         return ::DefWindowProc(window, message, wParam, lParam);
 
@@ -242,9 +269,8 @@ LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         // It must not unwind through the system's frames; whoever threw it has told the user.
         exception->Delete();
     }
-    if (message == WM_NCDESTROY && CWnd::FromHandlePermanent(window) == object) {
+    if (message == WM_NCDESTROY && FromHandlePermanent(window) == object) {
         object->Detach();
-        object->m_super = nullptr;
         object->PostNcDestroy();
     }
     return result;
@@ -278,7 +304,7 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
 
 BOOL CWnd::OnNotify(WPARAM, LPARAM, LRESULT*)
 {
-    return FALSE;
+    return AfxGetState().lockedOut == m_hWnd;
 }
 
 void CWnd::PostNcDestroy() {}
@@ -366,9 +392,9 @@ CWnd* CWnd::GetWindow(UINT relation) const
     return FromHandle(::GetWindow(m_hWnd, relation));
 }
 
-BOOL CWnd::CheckDlgButton(int id, UINT check) const
+void CWnd::CheckDlgButton(int id, UINT check) const
 {
-    return ::CheckDlgButton(m_hWnd, id, check);
+    ::CheckDlgButton(m_hWnd, id, check);
 }
 
 UINT CWnd::IsDlgButtonChecked(int id) const
@@ -443,16 +469,6 @@ BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add)
     return TRUE;
 }
 
-HFONT CWnd::GetFont() const
-{
-    return reinterpret_cast<HFONT>(SendMessage(WM_GETFONT));
-}
-
-void CWnd::SetFont(HFONT font, BOOL redraw)
-{
-    SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font), redraw);
-}
-
 void CWnd::GetClientRect(RECT* rect) const
 {
     ::GetClientRect(m_hWnd, rect);
@@ -484,10 +500,34 @@ int CWnd::MessageBox(LPCTSTR text, LPCTSTR caption, UINT type)
     return ::MessageBox(m_hWnd, text, caption || !application ? caption : application->m_pszAppName, type);
 }
 
+namespace {
+/// Whether the pointer can be on this child: it is shown, and has an id by which it is told from others.
+bool IsTool(HWND child)
+{
+    return (GetWindowLong(child, GWL_STYLE) & WS_VISIBLE) && static_cast<WORD>(GetDlgCtrlID(child)) != MAXWORD;
+}
+
+/// A group box only frames the controls that lie in it.
+bool IsFrame(HWND child)
+{
+    return (::SendMessage(child, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) &&
+           (GetWindowLong(child, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+}
+} // namespace
+
 INT_PTR CWnd::OnToolHitTest(CPoint point, TOOLINFOW*) const
 {
-    const HWND child = ChildWindowFromPointEx(m_hWnd, point, CWP_SKIPINVISIBLE);
-    if (!child || child == m_hWnd)
-        return -1;
-    return static_cast<WORD>(::GetDlgCtrlID(child));
+    ClientToScreen(&point);
+    INT_PTR frame = -1;
+    for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        CRect area;
+        ::GetWindowRect(child, &area);
+        if (!IsTool(child) || !area.PtInRect(point))
+            continue;
+        const INT_PTR id = static_cast<WORD>(::GetDlgCtrlID(child));
+        if (!IsFrame(child))
+            return id;
+        frame = id;
+    }
+    return frame;
 }
