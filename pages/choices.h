@@ -16,6 +16,7 @@ constexpr UINT kCuttingDirections[] = {IDS_CONVENTIONAL, IDS_CLIMB};
 constexpr int kFirstCuttingDirection = 1;
 constexpr UINT kPlainSorts[] = {IDS_SORT_NONE, IDS_SORT_AUTOMATIC};
 constexpr UINT kSideStepModes[] = {IDS_SIDE_STEP_STRAIGHT, IDS_SIDE_STEP_ALONG_EDGE};
+constexpr UINT kRapidFrequencies[] = {IDS_PER_PASS, IDS_PER_LEVEL};
 constexpr UINT kMaterialCutModes[] = {IDS_PATTERN_SPIRAL, IDS_PATTERN_ZIGZAG, IDS_PATTERN_ALONG_CONTOUR};
 constexpr UINT kPocketCutModes[] = {IDS_PATTERN_SPIRAL, IDS_PATTERN_ZIGZAG};
 
@@ -27,6 +28,3 @@ inline int KnownMaterialCutMode(int mode)
 
 /// Every page with cut modes tells its siblings a choice of either under this one code, with the index.
 constexpr WPARAM kCutModeChosen = 0x800E;
-constexpr UINT kPlainSorts[] = {IDS_SORT_NONE, IDS_SORT_AUTOMATIC};
-constexpr UINT kSideStepModes[] = {IDS_SIDE_STEP_STRAIGHT, IDS_SIDE_STEP_ALONG_EDGE};
-constexpr UINT kRapidFrequencies[] = {IDS_PER_PASS, IDS_PER_LEVEL};

@@ -42,18 +42,18 @@ BOOL CMainFrame::Create()
 {
     const LPCTSTR windowClass = AfxRegisterWndClass(0, LoadCursor(nullptr, IDC_ARROW), GetSysColorBrush(COLOR_BTNFACE),
                                                     LoadIcon(nullptr, IDI_APPLICATION));
-    if (!CFrameWnd::Create(windowClass, Text(IDS_MAIN_TITLE), WS_OVERLAPPEDWINDOW, CRect(40, 40, 800, 760),
-                           IDR_MAIN_MENU))
+    if (!CFrameWnd::Create(windowClass, Text(IDS_MAIN_TITLE), WS_OVERLAPPEDWINDOW, CRect(40, 40, 800, 760), nullptr,
+                           MAKEINTRESOURCE(IDR_MAIN_MENU)))
         return FALSE;
 
     m_font = MakeMessageFont();
     m_path.CreateEx(0, L"STATIC", nullptr, WS_CHILD | WS_VISIBLE | SS_NOPREFIX | SS_PATHELLIPSIS, CRect(), this,
-                    reinterpret_cast<HMENU>(INT_PTR{IDC_SETTINGS_PATH}));
-    m_path.SetFont(m_font);
+                    IDC_SETTINGS_PATH);
+    m_path.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_font), TRUE);
     m_text.CreateEx(WS_EX_CLIENTEDGE, L"EDIT", nullptr,
                     WS_CHILD | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL, CRect(), this,
-                    reinterpret_cast<HMENU>(INT_PTR{IDC_SETTINGS_TEXT}));
-    m_text.SetFont(m_font);
+                    IDC_SETTINGS_TEXT);
+    m_text.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_font), TRUE);
 
     for (const OptionPage& page : OptionPages())
         page.restore();

@@ -3,35 +3,30 @@
 #include <PelmarDlgs.h>
 
 #include "lathe_page.h"
+#include "resource.h"
 
 namespace {
 
-template <class Page, class Record>
-OptionPage Row(Record* record, void (Record::*checkUnits)(long), void (Record::*restore)(), void (Record::*save)())
-{
-    return {[](int units) {
-                auto page = std::make_unique<Page>();
-                page->GetData(units);
-                return page;
-            },
-            [record, restore] { (record->*restore)(); }, [record, save] { (record->*save)(); },
-            [record, checkUnits](long units) { (record->*checkUnits)(units); }};
 using MakePage = std::unique_ptr<CPropertyPage>(int units);
 
-template <class Record> OptionPage Row(MakePage* make, Record* record, void (Record::*checkUnits)(long))
+template <class Page> std::unique_ptr<CPropertyPage> Make(int units)
 {
-    return {make, [record] { record->vOptions_Restore(); }, [record] { record->vOptions_Save(); },
+    auto page = std::make_unique<Page>();
+    page->GetData(units);
+    return page;
+}
+
+template <class Record> OptionPage Row(UINT tab, MakePage* make, Record* record, void (Record::*checkUnits)(long),
+                                       void (Record::*restore)(), void (Record::*save)())
+{
+    return {tab, make, [record, restore] { (record->*restore)(); }, [record, save] { (record->*save)(); },
             [record, checkUnits](long units) { (record->*checkUnits)(units); }};
 }
 
-template <class Page, class Record> OptionPage Row(Record* record, void (Record::*checkUnits)(long))
+/// A record whose operations bear the usual names.
+template <class Record> OptionPage Row(UINT tab, MakePage* make, Record* record, void (Record::*checkUnits)(long))
 {
-    const auto make = [](int units) -> std::unique_ptr<CPropertyPage> {
-        auto page = std::make_unique<Page>();
-        page->GetData(units);
-        return page;
-    };
-    return Row<Record>(make, record, checkUnits);
+    return Row(tab, make, record, checkUnits, &Record::vOptions_Restore, &Record::vOptions_Save);
 }
 
 /// The 4-axis page with the axis of its record. A page that is handed an axis shows the button that changes it.
@@ -65,44 +60,41 @@ std::unique_ptr<CPropertyPage> Make5xPage(int units)
     return std::make_unique<C5xPage>(units);
 }
 
-template <class Page, class Record> OptionPage Row(Record* record, void (Record::*checkUnits)(long))
-{
-    return Row<Page>(record, checkUnits, &Record::vOptions_Restore, &Record::vOptions_Save);
-}
-
-template <class Page, class Record> OptionPage Row(Record* record, void (Record::*checkUnits)(long))
-{
-    return Row<Page>(record, checkUnits, &Record::vOptions_Restore, &Record::vOptions_Save);
-}
-
 } // namespace
 
 std::span<const OptionPage> OptionPages()
 {
     // A further page is a further row.
     static const OptionPage pages[] = {
-        Row<CDefs2xPage>(GetLast2xOptions(), &C2AxisOptionsInfo::v2xOptionsCheckUnits),
-        Row<CDefs3xPage>(GetLast3xOptions(), &C3AxisOptionsInfo::v3xOptionsCheckUnits),
-        Row<CDefsZRoughPage>(GetLastZRoughOptions(), &CZRoughOptionsInfo::vZRoughOptionsCheckUnits),
-        Row<CDefsZFinishPage>(GetLastZFinishOptions(), &CZFinishOptionsInfo::vZFinishOptionsCheckUnits),
-        Row<CDefsFlatSurfacePage>(GetLastFlatSurfaceOptions(), &CFlatSurfaceOptionsInfo::vFlatSurfaceOptionsCheckUnits),
-        Row<CDefsEDMPage>(GetLastEDMOptions(), &CEDMOptionsInfo::vEDMOptionsCheckUnits),
-        Row<CDefsFMPage>(GetLastFaceMillDefsInfo(), &CFaceMillDefsInfo::FaceMillDefsCheckUnits,
-                         &CFaceMillDefsInfo::vFaceMillDefs_Restore, &CFaceMillDefsInfo::vFaceMillDefs_Save),
-        Row<CDefsCMPage>(GetLastChamferMillDefsInfo(), &CChamferMillDefsInfo::ChamferMillDefsCheckUnits,
-                         &CChamferMillDefsInfo::vChamferMillDefs_Restore, &CChamferMillDefsInfo::vChamferMillDefs_Save),
-        Row<CDefsRMPage>(GetLastRoundMillDefsInfo(), &CRoundMillDefsInfo::RoundMillDefsCheckUnits,
-                         &CRoundMillDefsInfo::vRoundMillDefs_Restore, &CRoundMillDefsInfo::vRoundMillDefs_Save),
-        Row<CDefsGMPage>(GetLastGrooveMillDefsInfo(), &CGrooveMillDefsInfo::GrooveMillDefsCheckUnits,
-                         &CGrooveMillDefsInfo::vGrooveMillDefs_Restore, &CGrooveMillDefsInfo::vGrooveMillDefs_Save),
-        Row<CDefsSlotMillPage>(GetLastSlotMillDefsInfo(), &CSlotMillDefsInfo::SlotMillDefsCheckUnits,
-                               &CSlotMillDefsInfo::vSlotMillDefs_Restore, &CSlotMillDefsInfo::vSlotMillDefs_Save),
-        Row(Make4xPage, GetLast4xOptions(), &C4AxisOptionsInfo::v4xOptionsCheckUnits),
-        Row(Make5xPage, GetLast5xOptions(), &C5AxisOptionsInfo::v5xOptionsCheckUnits),
-        Row<DefsHoleProcessPage>(GetLastHoleProcessDefsInfo(), &HoleProcessDefsInfo::HoleProcessDefsCheckUnits,
-                                 &HoleProcessDefsInfo::HoleProcessDefs_Restore,
-                                 &HoleProcessDefsInfo::HoleProcessDefs_Save),
-        Row<CLathePage>(GetLastLatheOptions(), &CLatheOptionsInfo::vLatheOptionsCheckUnits),
+        Row(IDS_TAB_2X, Make<CDefs2xPage>, GetLast2xOptions(), &C2AxisOptionsInfo::v2xOptionsCheckUnits),
+        Row(IDS_TAB_3X, Make<CDefs3xPage>, GetLast3xOptions(), &C3AxisOptionsInfo::v3xOptionsCheckUnits),
+        Row(IDS_TAB_Z_ROUGH, Make<CDefsZRoughPage>, GetLastZRoughOptions(),
+            &CZRoughOptionsInfo::vZRoughOptionsCheckUnits),
+        Row(IDS_TAB_Z_FINISH, Make<CDefsZFinishPage>, GetLastZFinishOptions(),
+            &CZFinishOptionsInfo::vZFinishOptionsCheckUnits),
+        Row(IDS_TAB_FLAT_SURFACE, Make<CDefsFlatSurfacePage>, GetLastFlatSurfaceOptions(),
+            &CFlatSurfaceOptionsInfo::vFlatSurfaceOptionsCheckUnits),
+        Row(IDS_TAB_4X, Make4xPage, GetLast4xOptions(), &C4AxisOptionsInfo::v4xOptionsCheckUnits),
+        Row(IDS_TAB_5X, Make5xPage, GetLast5xOptions(), &C5AxisOptionsInfo::v5xOptionsCheckUnits),
+        Row(IDS_TAB_EDM, Make<CDefsEDMPage>, GetLastEDMOptions(), &CEDMOptionsInfo::vEDMOptionsCheckUnits),
+        Row(IDS_TAB_FACE_MILL, Make<CDefsFMPage>, GetLastFaceMillDefsInfo(), &CFaceMillDefsInfo::FaceMillDefsCheckUnits,
+            &CFaceMillDefsInfo::vFaceMillDefs_Restore, &CFaceMillDefsInfo::vFaceMillDefs_Save),
+        Row(IDS_TAB_CHAMFER_MILL, Make<CDefsCMPage>, GetLastChamferMillDefsInfo(),
+            &CChamferMillDefsInfo::ChamferMillDefsCheckUnits, &CChamferMillDefsInfo::vChamferMillDefs_Restore,
+            &CChamferMillDefsInfo::vChamferMillDefs_Save),
+        Row(IDS_TAB_ROUND_MILL, Make<CDefsRMPage>, GetLastRoundMillDefsInfo(),
+            &CRoundMillDefsInfo::RoundMillDefsCheckUnits, &CRoundMillDefsInfo::vRoundMillDefs_Restore,
+            &CRoundMillDefsInfo::vRoundMillDefs_Save),
+        Row(IDS_TAB_GROOVE_MILL, Make<CDefsGMPage>, GetLastGrooveMillDefsInfo(),
+            &CGrooveMillDefsInfo::GrooveMillDefsCheckUnits, &CGrooveMillDefsInfo::vGrooveMillDefs_Restore,
+            &CGrooveMillDefsInfo::vGrooveMillDefs_Save),
+        Row(IDS_TAB_SLOT_MILL, Make<CDefsSlotMillPage>, GetLastSlotMillDefsInfo(),
+            &CSlotMillDefsInfo::SlotMillDefsCheckUnits, &CSlotMillDefsInfo::vSlotMillDefs_Restore,
+            &CSlotMillDefsInfo::vSlotMillDefs_Save),
+        Row(IDS_TAB_HOLES, Make<DefsHoleProcessPage>, GetLastHoleProcessDefsInfo(),
+            &HoleProcessDefsInfo::HoleProcessDefsCheckUnits, &HoleProcessDefsInfo::HoleProcessDefs_Restore,
+            &HoleProcessDefsInfo::HoleProcessDefs_Save),
+        Row(IDS_TAB_LATHE, Make<CLathePage>, GetLastLatheOptions(), &CLatheOptionsInfo::vLatheOptionsCheckUnits),
     };
     return pages;
 }

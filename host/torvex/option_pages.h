@@ -9,6 +9,7 @@
 
 /// One kind of operation: its page and its live record.
 struct OptionPage {
+    UINT tab; ///< string id of the tab's text: several pages share the title of their template
     std::function<std::unique_ptr<CPropertyPage>(int units)> make; ///< the page, filled and in these units
     std::function<void()> restore;                                 ///< the record from the settings file
     std::function<void()> save;                                    ///< the record to the settings file

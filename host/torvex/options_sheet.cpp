@@ -35,8 +35,10 @@ CRect RectIn(const CWnd& parent, HWND control)
 COptionsSheet::COptionsSheet(CWnd* parent, int units) : CPropertySheetTVEx(Text(IDS_OPTIONS_TITLE), parent)
 {
     for (const OptionPage& page : OptionPages()) {
-        m_ownPages.push_back(page.make(units));
-        AddPage(m_ownPages.back().get());
+        CPropertyPage& made = *m_ownPages.emplace_back(page.make(units));
+        made.m_psp.pszTitle = m_tabs.emplace_back(Text(page.tab));
+        made.m_psp.dwFlags |= PSP_USETITLE;
+        AddPage(&made);
     }
 }
 
@@ -48,8 +50,8 @@ BOOL COptionsSheet::OnInitDialog()
     rect.left = RectIn(*this, GetTabControl()->m_hWnd).left;
     rect.right = rect.left + width;
     m_defaults.CreateEx(0, L"BUTTON", Text(IDS_PAGE_DEFAULTS), WS_CHILD | WS_VISIBLE | WS_TABSTOP, rect, this,
-                        reinterpret_cast<HMENU>(INT_PTR{IDC_PAGE_DEFAULTS}));
-    m_defaults.SetFont(GetFont());
+                        IDC_PAGE_DEFAULTS);
+    m_defaults.SendMessage(WM_SETFONT, static_cast<WPARAM>(SendMessage(WM_GETFONT)), TRUE);
     return CPropertySheetTVEx::OnInitDialog();
 }
 

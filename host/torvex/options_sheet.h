@@ -1,6 +1,7 @@
 // The sheet of the NC option pages.
 #pragma once
 
+#include <list>
 #include <memory>
 #include <vector>
 
@@ -25,5 +26,6 @@ private:
     static void SaveRecords();
 
     std::vector<std::unique_ptr<CPropertyPage>> m_ownPages;
+    std::list<CString> m_tabs; ///< the pages point at these texts
     CButton m_defaults;
 };

@@ -66,7 +66,7 @@ TEST_F(OptionPage, IsCreatedModelesslyFromItsTemplate)
 {
     ui::UiThread::Get().Call([] {
         CWnd parent;
-        ASSERT_TRUE(parent.CreateEx(0, L"Static", L"", WS_POPUP, CRect(0, 0, 600, 500), nullptr, nullptr));
+        ASSERT_TRUE(parent.CreateEx(0, L"Static", L"", WS_POPUP, CRect(0, 0, 600, 500), nullptr, 0));
         CExpRegenPropertyPage page(CDefs2xPage::IDD);
         EXPECT_TRUE(page.Create(CDefs2xPage::IDD, &parent));
         EXPECT_NE(nullptr, page.GetDlgItem(3905));
