@@ -43,8 +43,6 @@ constexpr ExchangeRow<Record> kExchange[] = {
     {IDC_3X_RAPID_PLUNGE, &Record::RapidPlunge, kNotNegative},
 };
 
-constexpr UINT kRapidFrequencies[] = {IDS_PER_PASS, IDS_PER_LEVEL};
-
 constexpr ChoiceRow<Record> kChoices[] = {
     {IDC_3X_FEED_BETWEEN_TYPE, &Record::FeedBetweenType, kLengthTypes},
     {IDC_3X_FEED_BETWEEN_RATE, &Record::FeedBetweenRate, kFeedsBetween},

@@ -256,6 +256,7 @@
 #define IDC_FS_PLUNGE_WARNINGS 1059
 #define IDC_FS_ISLAND_PLUNGES 1061
 #define IDC_FS_ALIGN_PLUNGES 1063
+
 // ---- 4-axis and 5-axis milling ----
 
 #define IDD_4X 3935
