@@ -28,7 +28,3 @@ inline int KnownMaterialCutMode(int mode)
 
 /// Every page with cut modes tells its siblings a choice of either under this one code, with the index.
 constexpr WPARAM kCutModeChosen = 0x800E;
-constexpr UINT kPlainSorts[] = {IDS_SORT_NONE, IDS_SORT_AUTOMATIC};
-constexpr UINT kSideStepModes[] = {IDS_SIDE_STEP_STRAIGHT, IDS_SIDE_STEP_ALONG_EDGE};
-constexpr UINT kRapidFrequencies[] = {IDS_PER_PASS, IDS_PER_LEVEL};
-constexpr UINT kRapidFrequencies[] = {IDS_PER_PASS, IDS_PER_LEVEL};

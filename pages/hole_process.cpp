@@ -1,5 +1,7 @@
 #include "pages/hole_process.h"
 
+#include <filesystem>
+
 #include "frame/fixed_text.h"
 #include "frame/module.h"
 #include "frame/settings_locations.h"
@@ -370,7 +372,12 @@ void DefsHoleProcessPage::OnSelFile()
     CFileDialog dialog(TRUE, kTemplateExtension, CString(m_options.StartupTemplate.c_str()),
                        OFN_LONGNAMES | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY, kTemplateFilter, this);
     dialog.m_ofn.lpstrInitialDir = initialFolder;
-    if (dialog.DoModal() != IDOK)
+    // The dialog moves the process's current folder, which relative settings paths start from.
+    std::error_code ignored;
+    const auto current = std::filesystem::current_path(ignored);
+    const INT_PTR result = dialog.DoModal();
+    std::filesystem::current_path(current, ignored);
+    if (result != IDOK)
         return;
     m_options.StartupTemplate = CStringA(dialog.GetPathName()).GetString();
     // The other controls show their fields again too: what was typed and not yet taken is gone.

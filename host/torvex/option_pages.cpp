@@ -30,21 +30,20 @@ template <class Record> OptionPage Row(UINT tab, MakePage* make, Record* record,
 }
 
 /// The 4-axis page with the axis of its record. A page that is handed an axis shows the button that changes it.
-class C4xPage : public CDefs4xPage {
-public:
-    void GetData(int units)
-    {
-        const C4AxisOptionsInfo& options = *GetLast4xOptions();
-        double axis[2][3] = {{options.StartPX, options.StartPY, options.StartPZ},
-                             {options.EndPX, options.EndPY, options.EndPZ}};
-        CDefs4xPage::GetData(units, axis);
-    }
-};
+std::unique_ptr<CPropertyPage> Make4xPage(int units)
+{
+    const C4AxisOptionsInfo& options = *GetLast4xOptions();
+    double axis[2][3] = {{options.StartPX, options.StartPY, options.StartPZ},
+                         {options.EndPX, options.EndPY, options.EndPZ}};
+    auto page = std::make_unique<CDefs4xPage>();
+    page->GetData(units, axis);
+    return page;
+}
 
 /// The 5-axis page. No record holds its axis: the host keeps it while it runs, as the user stored it last.
 class C5xPage : public CDefs5xPage {
 public:
-    void GetData(int units) { CDefs5xPage::GetData(units, s_axis); }
+    explicit C5xPage(int units) { GetData(units, s_axis); }
 
     void OnOK() override
     {
@@ -56,78 +55,9 @@ private:
     static inline double s_axis[2][3] = {{0, 0, 0}, {1, 0, 0}};
 };
 
-template <class Page, class Record>
-OptionPage Row(Record* record, void (Record::*checkUnits)(long), void (Record::*restore)(), void (Record::*save)())
+std::unique_ptr<CPropertyPage> Make5xPage(int units)
 {
-    return {[](int units) {
-                auto page = std::make_unique<Page>();
-                page->GetData(units);
-                return page;
-            },
-            [record, restore] { (record->*restore)(); }, [record, save] { (record->*save)(); },
-            [record, checkUnits](long units) { (record->*checkUnits)(units); }};
-    using MakePage = std::unique_ptr<CPropertyPage>(int units);
-
-    template <class Record> OptionPage Row(MakePage * make, Record * record, void(Record::*checkUnits)(long))
-    {
-        return {make, [record] { record->vOptions_Restore(); }, [record] { record->vOptions_Save(); },
-                [record, checkUnits](long units) { (record->*checkUnits)(units); }};
-    }
-
-    template <class Page, class Record> OptionPage Row(Record * record, void(Record::*checkUnits)(long))
-    {
-        const auto make = [](int units) -> std::unique_ptr<CPropertyPage> {
-            auto page = std::make_unique<Page>();
-            page->GetData(units);
-            return page;
-        };
-        return Row<Record>(make, record, checkUnits);
-    }
-
-    /// The 4-axis page with the axis of its record. A page that is handed an axis shows the button that changes it.
-    std::unique_ptr<CPropertyPage> Make4xPage(int units)
-    {
-        const C4AxisOptionsInfo& options = *GetLast4xOptions();
-        double axis[2][3] = {{options.StartPX, options.StartPY, options.StartPZ},
-                             {options.EndPX, options.EndPY, options.EndPZ}};
-        auto page = std::make_unique<CDefs4xPage>();
-        page->GetData(units, axis);
-        return page;
-    }
-
-    /// The 5-axis page. No record holds its axis: the host keeps it while it runs, as the user stored it last.
-    class C5xPage : public CDefs5xPage {
-    public:
-        explicit C5xPage(int units) { GetData(units, s_axis); }
-
-        void OnOK() override
-        {
-            CDefs5xPage::OnOK();
-            SetData(s_axis);
-        }
-
-    private:
-        static inline double s_axis[2][3] = {{0, 0, 0}, {1, 0, 0}};
-    };
-
-    std::unique_ptr<CPropertyPage> Make5xPage(int units)
-    {
-        return std::make_unique<C5xPage>(units);
-    }
-
-    template <class Page, class Record> OptionPage Row(Record * record, void(Record::*checkUnits)(long))
-    {
-        return Row<Page>(record, checkUnits, &Record::vOptions_Restore, &Record::vOptions_Save);
-    }
-
-    template <class Page, class Record> OptionPage Row(Record * record, void(Record::*checkUnits)(long))
-    {
-        return Row<Page>(record, checkUnits, &Record::vOptions_Restore, &Record::vOptions_Save);
-    }
-
-template <class Page, class Record> OptionPage Row(Record* record, void (Record::*checkUnits)(long))
-{
-    return Row<Page>(record, checkUnits, &Record::vOptions_Restore, &Record::vOptions_Save);
+    return std::make_unique<C5xPage>(units);
 }
 
 } // namespace
@@ -165,30 +95,6 @@ std::span<const OptionPage> OptionPages()
             &HoleProcessDefsInfo::HoleProcessDefsCheckUnits, &HoleProcessDefsInfo::HoleProcessDefs_Restore,
             &HoleProcessDefsInfo::HoleProcessDefs_Save),
         Row(IDS_TAB_LATHE, Make<CLathePage>, GetLastLatheOptions(), &CLatheOptionsInfo::vLatheOptionsCheckUnits),
-        Row<CDefs2xPage>(GetLast2xOptions(), &C2AxisOptionsInfo::v2xOptionsCheckUnits),
-        Row<CDefs3xPage>(GetLast3xOptions(), &C3AxisOptionsInfo::v3xOptionsCheckUnits),
-        Row<C4xPage>(GetLast4xOptions(), &C4AxisOptionsInfo::v4xOptionsCheckUnits),
-        Row<C5xPage>(GetLast5xOptions(), &C5AxisOptionsInfo::v5xOptionsCheckUnits),
-        Row<CDefsZRoughPage>(GetLastZRoughOptions(), &CZRoughOptionsInfo::vZRoughOptionsCheckUnits),
-        Row<CDefsZFinishPage>(GetLastZFinishOptions(), &CZFinishOptionsInfo::vZFinishOptionsCheckUnits),
-        Row<CDefsFlatSurfacePage>(GetLastFlatSurfaceOptions(), &CFlatSurfaceOptionsInfo::vFlatSurfaceOptionsCheckUnits),
-        Row<CDefsEDMPage>(GetLastEDMOptions(), &CEDMOptionsInfo::vEDMOptionsCheckUnits),
-        Row<CDefsFMPage>(GetLastFaceMillDefsInfo(), &CFaceMillDefsInfo::FaceMillDefsCheckUnits,
-                         &CFaceMillDefsInfo::vFaceMillDefs_Restore, &CFaceMillDefsInfo::vFaceMillDefs_Save),
-        Row<CDefsCMPage>(GetLastChamferMillDefsInfo(), &CChamferMillDefsInfo::ChamferMillDefsCheckUnits,
-                         &CChamferMillDefsInfo::vChamferMillDefs_Restore, &CChamferMillDefsInfo::vChamferMillDefs_Save),
-        Row<CDefsRMPage>(GetLastRoundMillDefsInfo(), &CRoundMillDefsInfo::RoundMillDefsCheckUnits,
-                         &CRoundMillDefsInfo::vRoundMillDefs_Restore, &CRoundMillDefsInfo::vRoundMillDefs_Save),
-        Row<CDefsGMPage>(GetLastGrooveMillDefsInfo(), &CGrooveMillDefsInfo::GrooveMillDefsCheckUnits,
-                         &CGrooveMillDefsInfo::vGrooveMillDefs_Restore, &CGrooveMillDefsInfo::vGrooveMillDefs_Save),
-        Row<CDefsSlotMillPage>(GetLastSlotMillDefsInfo(), &CSlotMillDefsInfo::SlotMillDefsCheckUnits,
-                               &CSlotMillDefsInfo::vSlotMillDefs_Restore, &CSlotMillDefsInfo::vSlotMillDefs_Save),
-        Row(Make4xPage, GetLast4xOptions(), &C4AxisOptionsInfo::v4xOptionsCheckUnits),
-        Row(Make5xPage, GetLast5xOptions(), &C5AxisOptionsInfo::v5xOptionsCheckUnits),
-        Row<DefsHoleProcessPage>(GetLastHoleProcessDefsInfo(), &HoleProcessDefsInfo::HoleProcessDefsCheckUnits,
-                                 &HoleProcessDefsInfo::HoleProcessDefs_Restore,
-                                 &HoleProcessDefsInfo::HoleProcessDefs_Save),
-        Row<CLathePage>(GetLastLatheOptions(), &CLatheOptionsInfo::vLatheOptionsCheckUnits),
     };
     return pages;
 }
