@@ -81,9 +81,10 @@ template <class Class, class Result, class... Arguments> struct AfxMember<Result
     using Type = Class;
 };
 
-/// Turns a handler of a known signature into the one shape that message maps hold.
-template <auto handler> struct AfxThunk {
-    using Class = typename AfxMember<decltype(handler)>::Type;
+/// Turns a handler of a known signature into the one shape that message maps hold. The type stands beside the handler
+/// because some compilers take equally named classes that are local to different files for one by the handler alone.
+template <class Function, Function handler> struct AfxThunk {
+    using Class = typename AfxMember<Function>::Type;
 
     static LRESULT Command(CCmdTarget& target, WPARAM, LPARAM)
     {
@@ -114,20 +115,22 @@ template <auto handler> struct AfxThunk {
     }
 };
 
-#define ON_CONTROL(code, id, memberFxn) {WM_COMMAND, code, id, &AfxThunk<memberFxn>::Command},
+#define AFX_THUNK(memberFxn) AfxThunk<decltype(memberFxn), memberFxn>
+
+#define ON_CONTROL(code, id, memberFxn) {WM_COMMAND, code, id, &AFX_THUNK(memberFxn)::Command},
 #define ON_COMMAND(id, memberFxn) ON_CONTROL(CN_COMMAND, id, memberFxn)
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
 #define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
 #define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
 #define ON_EN_KILLFOCUS(id, memberFxn) ON_CONTROL(EN_KILLFOCUS, id, memberFxn)
 #define ON_LBN_DBLCLK(id, memberFxn) ON_CONTROL(LBN_DBLCLK, id, memberFxn)
-#define ON_MESSAGE(message, memberFxn) {message, 0, 0, &AfxThunk<memberFxn>::Message},
-#define ON_WM_CHAR() {WM_CHAR, 0, 0, &AfxThunk<&ThisClass::OnChar>::Key},
-#define ON_WM_CLOSE() {WM_CLOSE, 0, 0, &AfxThunk<&ThisClass::OnClose>::Command},
-#define ON_WM_DESTROY() {WM_DESTROY, 0, 0, &AfxThunk<&ThisClass::OnDestroy>::Command},
-#define ON_WM_SIZE() {WM_SIZE, 0, 0, &AfxThunk<&ThisClass::OnSize>::Size},
-#define ON_WM_NCCREATE() {WM_NCCREATE, 0, 0, &AfxThunk<&ThisClass::OnNcCreate>::NcCreate},
-#define ON_WM_HELPINFO() {WM_HELP, 0, 0, &AfxThunk<&ThisClass::OnHelpInfo>::HelpInfo},
+#define ON_MESSAGE(message, memberFxn) {message, 0, 0, &AFX_THUNK(memberFxn)::Message},
+#define ON_WM_CHAR() {WM_CHAR, 0, 0, &AFX_THUNK(&ThisClass::OnChar)::Key},
+#define ON_WM_CLOSE() {WM_CLOSE, 0, 0, &AFX_THUNK(&ThisClass::OnClose)::Command},
+#define ON_WM_DESTROY() {WM_DESTROY, 0, 0, &AFX_THUNK(&ThisClass::OnDestroy)::Command},
+#define ON_WM_SIZE() {WM_SIZE, 0, 0, &AFX_THUNK(&ThisClass::OnSize)::Size},
+#define ON_WM_NCCREATE() {WM_NCCREATE, 0, 0, &AFX_THUNK(&ThisClass::OnNcCreate)::NcCreate},
+#define ON_WM_HELPINFO() {WM_HELP, 0, 0, &AFX_THUNK(&ThisClass::OnHelpInfo)::HelpInfo},
 
 /// Base of whatever receives commands.
 class AFX_CLASS CCmdTarget : public CObject {

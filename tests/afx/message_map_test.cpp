@@ -274,6 +274,26 @@ TEST_F(MessageMap, LetsNoExceptionOutOfAHandler)
     EXPECT_EQ(304, Send(kPlain, 3, 4));
 }
 
+/// Other files have a class of this name with a handler of this name.
+class CAskingWindow : public CWnd {
+protected:
+    LRESULT OnAsk(WPARAM wParam, LPARAM) { return static_cast<LRESULT>(wParam) + 70; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CAskingWindow, CWnd)
+    ON_MESSAGE(WM_APP, &CAskingWindow::OnAsk)
+END_MESSAGE_MAP()
+
+TEST(MessageMapOfAFile, IsNotTakenForThatOfAnEquallyNamedClassInAnotherFile)
+{
+    OnUi([] {
+        CAskingWindow window;
+        ASSERT_TRUE(window.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0));
+        EXPECT_EQ(77, window.SendMessage(WM_APP, 7));
+    });
+}
+
 // ---- where commands go that a dialog does not handle ----
 
 class CRoutingApp : public CWinApp {
