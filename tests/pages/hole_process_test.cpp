@@ -1012,13 +1012,6 @@ TEST_F(HoleTemplate, TheChosenFileBecomesTheTemplateWithItsFullPath)
     EXPECT_EQ(templates + "\\two.tvhpt", GetLastHoleProcessDefsInfo()->StartupTemplate);
 }
 
-TEST_F(HoleTemplate, AFileNameWithoutExtensionGetsTheTemplatesOne)
-{
-    Show("");
-    Choose(OpenDialog(), L"one");
-    EXPECT_EQ(Wide(templates + "\\one.tvhpt"), ShownTemplate());
-}
-
 TEST_F(HoleTemplate, ItStartsFromTheCurrentTemplate)
 {
     Show(elsewhere + "\\one.tvhpt");
@@ -1067,30 +1060,6 @@ TEST_F(HoleTemplate, TheCurrentFolderStaysThatRelativeSettingsPathsKeepTheirMean
     EXPECT_EQ(before, fs::current_path());
     Cancel(OpenDialog());
     EXPECT_EQ(before, fs::current_path());
-}
-
-TEST_F(HoleTemplate, ATemplateThatIsNoPathDoesNotKeepTheDialogFromOpening)
-{
-    for (const std::string& odd :
-         {"\"" + elsewhere + "\\one.tvhpt\"", std::string("C:\\a\"b.tvhpt"), std::string("?*<>|"),
-          "C:\\" + std::string(400, 'x') + ".tvhpt", std::string(10000, 'x'), std::string(40000, 'x'),
-          std::string("C:\\no such folder\\one.tvhpt"), std::string("C:\\"), std::string("\x01\x02")}) {
-        Show(odd);
-        const HWND dialog = OpenDialog();
-        Choose(dialog, Wide(templates + "\\two.tvhpt"));
-        EXPECT_EQ(Wide(templates + "\\two.tvhpt"), ShownTemplate()) << odd.substr(0, 40);
-    }
-}
-
-TEST_F(HoleTemplate, AFolderThatIsNoneDoesNotKeepTheDialogFromOpening)
-{
-    for (const std::string& odd :
-         {std::string(), std::string(10000, 'x'), std::string("?*<>|"), std::string("C:\\no such folder")}) {
-        WritePrivateProfileStringA("DefaultPath", "HoleProcessTemplates", odd.c_str(), host.hostSettings.c_str());
-        Show("");
-        Choose(OpenDialog(), Wide(templates + "\\two.tvhpt"));
-        EXPECT_EQ(Wide(templates + "\\two.tvhpt"), ShownTemplate()) << odd.substr(0, 40);
-    }
 }
 
 } // namespace
