@@ -10,12 +10,15 @@
 #include "frame/export.h"
 
 /// Evaluate a zero-terminated text. 0 on success. -1 where the text is null or blank, an operand, an operator's operand
-/// or a ")" is missing, a number is malformed or longer than 255 characters, a divisor is zero, "%" has a real operand,
-/// parentheses nest deeper than 256, or the result is not finite or, as a whole number, needs more than 32 bits; the
-/// result is 0 then. The quotient of the smallest whole number and -1 fails, the remainder of the two is 0.
+/// or a ")" is missing, a decimal number is malformed, longer than 255 characters or too large for a double, a divisor
+/// is zero, "%" has a real operand, parentheses nest deeper than 256, or the result is not finite or, as a whole
+/// number, needs more than 32 bits; the result is 0 then. The quotient of the smallest whole number and -1 fails, the
+/// remainder of the two is 0.
 ///
-/// A real result of EvalExpressionInt is truncated toward zero. A text without any token given to EvalExpressionInt
-/// leaves integer mode on for the next EvalExpressionReal.
+/// An exponent without digits counts as none: "1.5e" is 1.5. Hexadecimal numbers of any length wrap around at 32 bits
+/// and are signed, in real mode too. A real result of EvalExpressionInt is truncated toward zero. A text given to
+/// EvalExpressionInt in which no first token can be read, as in a blank one, leaves integer mode on for the next
+/// EvalExpressionReal.
 PELMAR_API int EvalExpressionReal(const char* text, double* result);
 PELMAR_API int EvalExpressionInt(const char* text, int* result);
 
