@@ -2,8 +2,6 @@
 
 #include <array>
 
-#include <windows.h>
-
 namespace {
 constexpr std::array kNames = {
     "ToolLib_nGetMillTool",
@@ -44,12 +42,6 @@ HMODULE g_library = nullptr;
 bool g_materialLibrary = false;
 std::array<FARPROC, kNames.size()> g_entryPoints{};
 
-template <class Function> Function* Resolved(ToolEntryPoint entryPoint)
-{
-    const FARPROC address = g_entryPoints[static_cast<size_t>(entryPoint)];
-    return reinterpret_cast<Function*>(reinterpret_cast<void*>(address));
-}
-
 bool ResolveEntryPoints()
 {
     // Addresses of a library that is gone must not serve for the entry points that the new one lacks.
@@ -82,10 +74,16 @@ void UnloadToolLibrary()
 {
     if (!g_library)
         return;
-    if (const auto closeRecordSets = Resolved<void()>(ToolEntryPoint::CloseRecordSets))
+    if (const auto closeRecordSets = ToolLibraryFunction<void()>(ToolEntryPoint::CloseRecordSets))
         closeRecordSets();
     FreeLibrary(g_library);
     g_library = nullptr;
+    g_entryPoints = {};
+}
+
+FARPROC ToolLibraryAddress(ToolEntryPoint entryPoint)
+{
+    return g_entryPoints[static_cast<size_t>(entryPoint)];
 }
 
 bool& MaterialLibrarySwitch()

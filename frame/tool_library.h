@@ -1,6 +1,8 @@
 // The tool library, a DLL of the host's that knows its tools and materials.
 #pragma once
 
+#include <windows.h>
+
 #include "frame/export.h"
 
 /// Its entry points, in the order in which they are looked up.
@@ -44,6 +46,16 @@ bool LoadToolLibrary(const char* name);
 
 /// Has the tool library close its files and frees it. Without one it does nothing.
 void UnloadToolLibrary();
+
+/// The address of an entry point; null while no tool library is loaded, and where the loaded one lacks it or an earlier
+/// one of the list.
+FARPROC ToolLibraryAddress(ToolEntryPoint entryPoint);
+
+/// The same as a function of that type.
+template <class Function> Function* ToolLibraryFunction(ToolEntryPoint entryPoint)
+{
+    return reinterpret_cast<Function*>(reinterpret_cast<void*>(ToolLibraryAddress(entryPoint)));
+}
 
 /// Whether materials may be chosen from the tool library and gauge lengths taken from it. Off as long as nobody
 /// switches it on: the module itself never does.

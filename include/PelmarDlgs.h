@@ -4,6 +4,7 @@
 // FinalizePelmarDlgsDLL. Everything is for the host's user-interface thread.
 #pragma once
 
+#include "dialogs/nc_dialog.h"
 #include "expr/evaluator.h"
 #include "expr/expression_edits.h"
 #include "frame/module.h"

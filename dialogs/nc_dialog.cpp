@@ -1,0 +1,44 @@
+#include "dialogs/nc_dialog.h"
+
+#include "frame/module.h"
+#include "resources/resource.h"
+
+namespace {
+/// The low bits of a system command are the system's own.
+constexpr WPARAM kSystemCommandMask = 0xFFF0;
+} // namespace
+
+INT_PTR CNCDialog::DoModal()
+{
+    const ModuleResources resources;
+    return CDialog::DoModal();
+}
+
+BOOL CNCDialog::Create(UINT templateId, CWnd* parent)
+{
+    const ModuleResources resources;
+    return CDialog::Create(templateId, parent);
+}
+
+BOOL CNCDialog::OnNcCreate(CREATESTRUCTW* create)
+{
+    ModifyStyleEx(0, WS_EX_CONTEXTHELP);
+    return CDialog::OnNcCreate(create);
+}
+
+void CNCDialog::WatchForContextHelp(UINT message, WPARAM wParam)
+{
+    CWinApp* const application = AfxGetApp();
+    if (application && message == WM_SYSCOMMAND && (wParam & kSystemCommandMask) == SC_CONTEXTHELP)
+        application->m_bHelpMode = TRUE;
+}
+
+void CNCDialog::ShowHelp(const char* general, std::span<const HelpTopic> topics)
+{
+    ShowTopic(*this, ChooseTopic(*this, GetCurrentMessage()->pt, general, topics));
+}
+
+bool AskToStoreUntilRestart()
+{
+    return AfxMessageBox(LoadText(IDS_RESTART_QUESTION), MB_YESNO) == IDYES;
+}
