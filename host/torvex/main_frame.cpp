@@ -12,6 +12,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_WM_DESTROY()
     ON_COMMAND(ID_FILE_EXIT, &CMainFrame::OnExit)
     ON_COMMAND(ID_NC_OPTIONS, &CMainFrame::OnNcOptions)
+    ON_COMMAND(ID_NC_OPTIONS_READ_ONLY, &CMainFrame::OnNcOptionsReadOnly)
     ON_COMMAND(ID_UNITS_INCH, &CMainFrame::OnInch)
     ON_COMMAND(ID_UNITS_MILLIMETRE, &CMainFrame::OnMillimetre)
 END_MESSAGE_MAP()
@@ -86,8 +87,13 @@ void CMainFrame::OnExit()
 
 void CMainFrame::OnNcOptions()
 {
-    COptionsSheet(this, m_units).DoModal();
+    COptionsSheet(this, m_units, COptionsSheet::Use::Edit).DoModal();
     ShowSettings();
+}
+
+void CMainFrame::OnNcOptionsReadOnly()
+{
+    COptionsSheet(this, m_units, COptionsSheet::Use::Look).DoModal();
 }
 
 void CMainFrame::OnInch()

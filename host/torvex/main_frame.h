@@ -14,6 +14,7 @@ protected:
     void OnDestroy();
     void OnExit();
     void OnNcOptions();
+    void OnNcOptionsReadOnly();
     void OnInch();
     void OnMillimetre();
     DECLARE_MESSAGE_MAP()

@@ -32,12 +32,15 @@ CRect RectIn(const CWnd& parent, HWND control)
 
 } // namespace
 
-COptionsSheet::COptionsSheet(CWnd* parent, int units) : CPropertySheetTVEx(Text(IDS_OPTIONS_TITLE), parent)
+COptionsSheet::COptionsSheet(CWnd* parent, int units, Use use)
+    : CPropertySheetTVEx(Text(IDS_OPTIONS_TITLE), parent), m_use(use)
 {
-    for (const OptionPage& page : OptionPages()) {
-        CPropertyPage& made = *m_ownPages.emplace_back(page.make(units));
-        made.m_psp.pszTitle = m_tabs.emplace_back(Text(page.tab));
+    for (const OptionPage& row : OptionPages()) {
+        CPropertyPage& made = *m_ownPages.emplace_back(row.make(units));
+        made.m_psp.pszTitle = m_tabs.emplace_back(Text(row.tab));
         made.m_psp.dwFlags |= PSP_USETITLE;
+        if (auto* const page = dynamic_cast<CExpRegenPropertyPage*>(&made))
+            page->m_readOnly = use == Use::Look;
         AddPage(&made);
     }
 }
@@ -52,6 +55,7 @@ BOOL COptionsSheet::OnInitDialog()
     m_defaults.CreateEx(0, L"BUTTON", Text(IDS_PAGE_DEFAULTS), WS_CHILD | WS_VISIBLE | WS_TABSTOP, rect, this,
                         IDC_PAGE_DEFAULTS);
     m_defaults.SendMessage(WM_SETFONT, static_cast<WPARAM>(SendMessage(WM_GETFONT)), TRUE);
+    m_defaults.EnableWindow(m_use == Use::Edit);
     return CPropertySheetTVEx::OnInitDialog();
 }
 
@@ -61,8 +65,10 @@ void COptionsSheet::OnPageDefaults()
         page->SendMessage(kSetDefaultsMessage);
 }
 
-void COptionsSheet::SaveRecords()
+void COptionsSheet::SaveRecords() const
 {
+    if (m_use == Use::Look)
+        return;
     for (const OptionPage& page : OptionPages())
         page.save();
 }

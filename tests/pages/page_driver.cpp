@@ -1,5 +1,6 @@
 #include "pages/page_driver.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "pages/dialogs.h"
@@ -138,27 +139,29 @@ int ButtonExtra(HWND button)
     }
 }
 
-bool TextFits(HWND control, const RECT& rect, const TextMeasure& measure)
+/// The width that a control's texts need; its own one where they fit.
+int NeededWidth(HWND control, const RECT& rect, const TextMeasure& measure)
 {
     const std::wstring text = ui::TextOf(control);
     const int width = rect.right - rect.left;
     const std::wstring name = ui::ClassOf(control);
-    if (name == L"Button")
-        return text.empty() || measure.Of(text).cx + ButtonExtra(control) <= width;
+    if (name == L"Button" && !text.empty())
+        return std::max<int>(width, measure.Of(text).cx + ButtonExtra(control));
     if (name == L"Static" && !text.empty()) {
         const SIZE wrapped = measure.Of(text, width);
-        return wrapped.cx <= width && wrapped.cy <= rect.bottom - rect.top + 1;
+        const bool fits = wrapped.cx <= width && wrapped.cy <= rect.bottom - rect.top + 1;
+        return fits ? width : measure.Of(text).cx;
     }
     if (name != L"ComboBox")
-        return true;
+        return width;
+    int needed = width;
     const auto count = static_cast<size_t>(SendMessage(control, CB_GETCOUNT, 0, 0));
     for (size_t index = 0; index < count; ++index) {
         std::wstring item(static_cast<size_t>(SendMessage(control, CB_GETLBTEXTLEN, index, 0)) + 1, L'\0');
         SendMessage(control, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(item.data()));
-        if (measure.Of(item.c_str()).cx + GetSystemMetrics(SM_CXVSCROLL) + 8 > width)
-            return false;
+        needed = std::max<int>(needed, measure.Of(item.c_str()).cx + GetSystemMetrics(SM_CXVSCROLL) + 8);
     }
-    return true;
+    return needed;
 }
 
 std::string Name(HWND control)
@@ -178,8 +181,10 @@ std::vector<std::string> LayoutFaults(HWND dialog)
     const std::vector<HWND> controls = ui::Children(dialog);
     for (size_t first = 0; first < controls.size(); ++first) {
         const RECT rect = RectIn(dialog, controls[first]);
-        if (!TextFits(controls[first], rect, measure))
-            faults.push_back(Name(controls[first]) + " is clipped");
+        const int width = rect.right - rect.left;
+        if (const int needed = NeededWidth(controls[first], rect, measure); needed > width)
+            faults.push_back(Name(controls[first]) + " is clipped: it has " + std::to_string(width) +
+                             " pixels and needs " + std::to_string(needed));
         if (rect.left < 0 || rect.top < 0 || rect.right > client.right || rect.bottom > client.bottom)
             faults.push_back(Name(controls[first]) + " leaves the dialog");
         if (IsGroupBox(controls[first]) || !IsVisible(controls[first]))

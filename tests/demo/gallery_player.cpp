@@ -1,0 +1,134 @@
+// Shows every page of the host: as it opens, where it only may be looked at, and with the prompt that refuses a bad
+// entry; and the dialogs behind the pages' buttons.
+#include "demo/host_process.h"
+
+#include <optional>
+
+#include <prsht.h>
+
+#include "host/torvex/resource.h"
+#include "resources/resource.h"
+
+using namespace player;
+
+namespace {
+
+/// The pages in the order of their tabs, by the names of their pictures.
+constexpr const char* kPages[] = {
+    "2-axis",    "3-axis",       "z-rough",    "z-finish",    "flat-surface", "4-axis", "5-axis", "wire-edm",
+    "face-mill", "chamfer-mill", "round-mill", "groove-mill", "slot-mill",    "holes",  "lathe",
+};
+
+RECT AreaOf(HWND window)
+{
+    RECT area;
+    GetWindowRect(window, &area);
+    return area;
+}
+
+void Picture(HWND window, const std::string& name)
+{
+    const RECT area = AreaOf(window);
+    TakeShot(window, name, &area);
+}
+
+HWND OpenSheet(const Host& host, HWND main, UINT command)
+{
+    PostMessage(main, WM_COMMAND, command, 0);
+    const HWND sheet = host.WaitForWindow(L"Параметры ЧПУ");
+    ui::Settle(sheet);
+    return sheet;
+}
+
+void CloseSheet(HWND sheet)
+{
+    PostMessage(sheet, WM_COMMAND, IDCANCEL, 0);
+    ExpectSoon("the sheet is closed", [&] { return !IsWindow(sheet); });
+}
+
+HWND TurnTo(HWND sheet, size_t index)
+{
+    SendMessage(sheet, PSM_SETCURSEL, index, 0);
+    ui::Settle(sheet);
+    return PageOf(sheet);
+}
+
+/// The page's first field that takes numbers and can be typed into.
+std::optional<int> FirstField(HWND page)
+{
+    for (const HWND control : ui::Children(page))
+        if (ui::ClassOf(control) == L"Edit" && IsWindowEnabled(control) && IsWindowVisible(control) &&
+            !ui::TextOf(control).empty() && iswdigit(ui::TextOf(control).front()))
+            return GetDlgCtrlID(control);
+    return {};
+}
+
+/// Types what no field takes, asks for the sheet to be stored, and takes a picture of the prompt.
+void PictureOfPrompt(const Host& host, HWND sheet, HWND page, const std::string& name)
+{
+    const std::optional<int> field = FirstField(page);
+    if (!field)
+        return;
+    const std::wstring before = ui::TextOf(page, *field);
+    ui::Type(page, *field, L"1/8+");
+    PostMessage(sheet, WM_COMMAND, IDOK, 0);
+    const ui::MessageBoxSeen box = ui::WaitForBox(host.Id());
+    const RECT sheetArea = AreaOf(sheet);
+    const RECT boxArea = AreaOf(box.window);
+    RECT both;
+    UnionRect(&both, &sheetArea, &boxArea);
+    TakeShot(box.window, name, &both);
+    ui::Answer(box, IDOK);
+    ui::Type(page, *field, before);
+}
+
+void PictureOfDialog(const Host& host, HWND page, int button, const wchar_t* title, const std::string& name)
+{
+    ui::Click(page, button);
+    const HWND dialog = host.WaitForWindow(title);
+    Picture(dialog, name);
+    PostMessage(dialog, WM_COMMAND, IDCANCEL, 0);
+    ExpectSoon("the dialog is closed", [&] { return !IsWindow(dialog); });
+}
+
+void PlayPages(const Host& host, HWND main)
+{
+    HWND sheet = OpenSheet(host, main, ID_NC_OPTIONS);
+    for (size_t index = 0; index < std::size(kPages); ++index) {
+        const HWND page = TurnTo(sheet, index);
+        Picture(sheet, kPages[index]);
+        PictureOfPrompt(host, sheet, page, std::string(kPages[index]) + "-refused");
+        if (std::string(kPages[index]) == "4-axis")
+            PictureOfDialog(host, page, IDC_MX_ROTARY_OPTIONS, L"Параметры осей поворота", "rotary-axes");
+    }
+    CloseSheet(sheet);
+    sheet = OpenSheet(host, main, ID_NC_OPTIONS_READ_ONLY);
+    for (size_t index = 0; index < std::size(kPages); ++index) {
+        TurnTo(sheet, index);
+        Picture(sheet, std::string(kPages[index]) + "-read-only");
+    }
+    CloseSheet(sheet);
+    PostMessage(main, WM_COMMAND, ID_UNITS_MILLIMETRE, 0);
+    sheet = OpenSheet(host, main, ID_NC_OPTIONS);
+    for (size_t index = 0; index < std::size(kPages); ++index) {
+        TurnTo(sheet, index);
+        Picture(sheet, std::string(kPages[index]) + "-metric");
+    }
+    CloseSheet(sheet);
+}
+
+void Play()
+{
+    const Host host;
+    const HWND main = host.WaitForWindow(L"TORVEX");
+    PlayPages(host, main);
+    PostMessage(main, WM_CLOSE, 0, 0);
+    Expect(host.WaitForEnd() == 0, "the program ended well");
+}
+
+} // namespace
+
+int main()
+{
+    return Run(Play);
+}
