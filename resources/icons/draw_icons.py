@@ -4,8 +4,8 @@
 Run it after a change to a shape or a colour and commit the icons with it: the build takes the .ico files as they are.
 Needs nothing but Python. The same script gives the same bytes on every machine.
 
-A travel direction is an arrow; an approach is an arrow that ends at a hole. The chosen one of a row is white on a
-filled square, so that it stands out without colour too. Shapes are in units of a sixteenth of the icon, and their
+A travel direction is an arrow; an approach is an arrow that ends at a hole. The chosen one of a row is cut out of a
+filled square, so that it stands out without colour, and still shows where the system greys it. Shapes are in units of a sixteenth of the icon, and their
 straight edges lie on whole units: they stay crisp at both sizes.
 """
 
@@ -16,7 +16,6 @@ SIZES = (16, 32)
 SAMPLES = 8  # a pixel's side is sampled so often
 
 INK = (0x1F, 0x3A, 0x5F)
-CHOSEN_INK = (0xFF, 0xFF, 0xFF)
 CHOSEN_GROUND = (0x0A, 0x64, 0xC8)
 
 
@@ -77,10 +76,6 @@ def coverage(size, column, row, covers):
     )
 
 
-def blend(under, over, part, whole):
-    return tuple((u * (whole - part) + o * part + whole // 2) // whole for u, o in zip(under, over))
-
-
 def draw(size, shape, place, chosen):
     """Rows of (red, green, blue, alpha), the top one first."""
     whole = SAMPLES * SAMPLES
@@ -88,12 +83,13 @@ def draw(size, shape, place, chosen):
     for row in range(size):
         pixels = []
         for column in range(size):
-            ink = coverage(size, column, row, lambda x, y: shape(*place(x, y)))
             if chosen:
-                ground = coverage(size, column, row, in_ground)
-                pixels.append((*blend(CHOSEN_GROUND, CHOSEN_INK, ink, whole), (ground * 255 + whole // 2) // whole))
+                colour = CHOSEN_GROUND
+                covered = coverage(size, column, row, lambda x, y: in_ground(x, y) and not shape(*place(x, y)))
             else:
-                pixels.append((*INK, (ink * 255 + whole // 2) // whole))
+                colour = INK
+                covered = coverage(size, column, row, lambda x, y: shape(*place(x, y)))
+            pixels.append((*colour, (covered * 255 + whole // 2) // whole))
         rows.append(pixels)
     return rows
 
