@@ -87,5 +87,5 @@ int main()
     const auto [ours, theirs, scan] = bench::BestTimes(kRounds, kCalls, Evaluate, muParser, ScanNumbers);
     bench::PrintRatio("expression: muParser's time / ours", theirs / ours, "at least 50");
     bench::PrintRatio("expression: our time / scanning the numbers alone", ours / scan, "at most 2.5");
-    std::printf("%-60s %8.1f\n", "  nanoseconds for one text", ours / std::size(kTyped) * 1e9);
+    std::printf("%-72s %8.1f\n", "  nanoseconds for one text", ours / std::size(kTyped) * 1e9);
 }

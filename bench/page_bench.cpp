@@ -1,10 +1,13 @@
-// What the code behind the 2-axis page adds to showing its template in a property sheet.
+// What the code behind the pages adds to showing their templates in a property sheet.
 #include <cstdio>
+#include <memory>
+#include <vector>
 
 #include <ControlLib.h>
 
 #include "bench/stopwatch.h"
 #include "module/host_folder.h"
+#include "option_pages.h"
 #include "resources/resource.h"
 
 namespace {
@@ -14,8 +17,29 @@ constexpr UINT kCloseShown = WM_APP + 1;
 
 /// Whether every sheet so far came up and was cancelled.
 bool g_shown = true;
+/// The pages of the sheet to come, and the controls seen on the pages of the last one.
+int g_pages = 1;
+size_t g_controls = 0;
 
-/// Runs once the sheet's message loop does: paints what is not painted yet and presses Cancel.
+size_t CountChildren(HWND window)
+{
+    size_t count = 0;
+    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        ++count;
+    return count;
+}
+
+/// Shows one page of the sheet, painted.
+void ShowPage(HWND sheet, int index)
+{
+    SendMessage(sheet, PSM_SETCURSEL, static_cast<WPARAM>(index), 0);
+    RedrawWindow(sheet, nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
+    const auto page = reinterpret_cast<HWND>(SendMessage(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
+    g_shown = g_shown && page;
+    g_controls += CountChildren(page);
+}
+
+/// Runs once the sheet's message loop does: shows all pages and presses Cancel.
 LRESULT CALLBACK CloseWhenShown(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message != kCloseShown)
@@ -25,7 +49,9 @@ LRESULT CALLBACK CloseWhenShown(HWND window, UINT message, WPARAM wParam, LPARAM
         PostMessage(window, kCloseShown, 0, 0);
         return 0;
     }
-    RedrawWindow(sheet, nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
+    g_controls = 0;
+    for (int index = 0; index < g_pages; ++index)
+        ShowPage(sheet, index);
     PostMessage(sheet, WM_COMMAND, IDCANCEL, 0);
     return 0;
 }
@@ -46,32 +72,63 @@ INT_PTR CALLBACK NoCode(HWND, UINT, WPARAM, LPARAM)
     return FALSE;
 }
 
-void ShowBareTemplate(HWND closer)
+PROPSHEETPAGEW BareTemplate(const wchar_t* name)
 {
     PROPSHEETPAGEW page{};
     page.dwSize = sizeof page;
     page.dwFlags = PSP_HASHELP;
     page.hInstance = GetModuleHandle(L"PelmarDlgs.dll");
-    page.pszTemplate = MAKEINTRESOURCE(IDD_2X);
+    page.pszTemplate = name;
     page.pfnDlgProc = NoCode;
+    return page;
+}
+
+void ShowBare(HWND closer, const std::vector<PROPSHEETPAGEW>& pages)
+{
     PROPSHEETHEADERW sheet{};
     sheet.dwSize = sizeof sheet;
     sheet.dwFlags = PSH_PROPSHEETPAGE;
     sheet.pszCaption = kCaption;
-    sheet.nPages = 1;
-    sheet.ppsp = &page;
+    sheet.nPages = static_cast<UINT>(pages.size());
+    sheet.ppsp = pages.data();
+    g_pages = static_cast<int>(pages.size());
     PostMessage(closer, kCloseShown, 0, 0);
     g_shown = g_shown && PropertySheetW(&sheet) == 0;
 }
 
-void ShowPage(HWND closer)
+/// Shows pages of the host, made anew.
+void ShowPages(HWND closer, std::span<const OptionPage> rows)
 {
-    CDefs2xPage page;
-    page.GetData(kInch);
+    std::vector<std::unique_ptr<CPropertyPage>> pages;
     CPropertySheetTVEx sheet(kCaption);
-    sheet.AddPage(&page);
+    for (const OptionPage& row : rows)
+        sheet.AddPage(pages.emplace_back(row.make(kInch)).get());
+    g_pages = static_cast<int>(rows.size());
     PostMessage(closer, kCloseShown, 0, 0);
     g_shown = g_shown && sheet.DoModal() == IDCANCEL;
+}
+
+/// The templates of pages of the host, without their code.
+std::vector<PROPSHEETPAGEW> TemplatesOf(std::span<const OptionPage> rows)
+{
+    std::vector<PROPSHEETPAGEW> templates;
+    for (const OptionPage& row : rows)
+        templates.push_back(BareTemplate(row.make(kInch)->m_psp.pszTemplate));
+    return templates;
+}
+
+struct Shown {
+    double own;
+    double bare;
+    size_t controls;
+};
+
+Shown Measure(HWND closer, std::span<const OptionPage> rows, int rounds)
+{
+    const std::vector<PROPSHEETPAGEW> templates = TemplatesOf(rows);
+    const auto [own, bare] = bench::BestTimes(
+        rounds, 1, [&] { ShowPages(closer, rows); }, [&] { ShowBare(closer, templates); });
+    return {own, bare, g_controls};
 }
 
 } // namespace
@@ -82,13 +139,19 @@ int main()
     const HostFolder host;
     InitPelmarDlgsDLL();
     const HWND closer = CreateCloser();
-    constexpr int kRounds = 40;
-    const auto [ours, bare] = bench::BestTimes(
-        kRounds, 1, [&] { ShowPage(closer); }, [&] { ShowBareTemplate(closer); });
+    const std::span<const OptionPage> all = OptionPages();
+    const Shown first = Measure(closer, all.first(1), 40);
+    const Shown whole = Measure(closer, all, 10);
     if (!g_shown) {
         std::printf("page: a sheet did not come up\n");
         return 1;
     }
-    bench::PrintRatio("page: showing the 2-axis page / its template without code", ours / bare, "at most 1.3");
-    std::printf("%-60s %8.1f\n", "  milliseconds for the bare template", bare * 1e3);
+    bench::PrintRatio("page: showing the 2-axis page / its template without code", first.own / first.bare,
+                      "at most 1.3");
+    bench::PrintRatio("pages: showing all / their templates without code", whole.own / whole.bare, "");
+    const auto perControl = [](const Shown& shown) { return shown.own / static_cast<double>(shown.controls); };
+    bench::PrintRatio("pages: time per control, all pages / the 2-axis page", perControl(whole) / perControl(first),
+                      "at most 1");
+    std::printf("  milliseconds for bare templates: %.1f the 2-axis page (%zu controls), %.1f all (%zu controls)\n",
+                first.bare * 1e3, first.controls, whole.bare * 1e3, whole.controls);
 }

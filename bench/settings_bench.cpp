@@ -1,4 +1,4 @@
-// What a record adds to the profile calls that save and restore it.
+// What the records add to the profile calls that save and restore them.
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -8,30 +8,42 @@
 
 #include "bench/stopwatch.h"
 #include "module/host_folder.h"
+#include "option_pages.h"
 
 namespace {
 
-constexpr char kSection[] = "Options2x";
-
 struct Entry {
+    std::string section;
     std::string key;
     std::string text;
     bool isReal;
     int whole;
 };
 
-/// What the record has saved, in its order.
-std::vector<Entry> SavedEntries(const char* file)
+/// The zero-terminated texts of a list that ends with an empty one.
+std::vector<std::string> TextsOf(const std::vector<char>& list)
 {
-    char section[8192];
-    GetPrivateProfileSectionA(kSection, section, sizeof section, file);
+    std::vector<std::string> texts;
+    for (const char* text = list.data(); *text; text += std::strlen(text) + 1)
+        texts.emplace_back(text);
+    return texts;
+}
+
+/// What a settings file holds, in its order.
+std::vector<Entry> EntriesOf(const char* file)
+{
+    std::vector<char> list(32765);
+    GetPrivateProfileSectionNamesA(list.data(), static_cast<DWORD>(list.size()), file);
     std::vector<Entry> entries;
-    for (const char* line = section; *line; line += std::strlen(line) + 1) {
-        const std::string entry = line;
-        const size_t equals = entry.find('=');
-        const std::string text = entry.substr(equals + 1);
-        const bool isReal = text.find('.') != std::string::npos;
-        entries.push_back({entry.substr(0, equals), text, isReal, isReal ? 0 : std::stoi(text)});
+    for (const std::string& section : TextsOf(list)) {
+        std::vector<char> lines(32765);
+        GetPrivateProfileSectionA(section.c_str(), lines.data(), static_cast<DWORD>(lines.size()), file);
+        for (const std::string& line : TextsOf(lines)) {
+            const size_t equals = line.find('=');
+            const std::string text = line.substr(equals + 1);
+            const bool isReal = text.find('.') != std::string::npos;
+            entries.push_back({section, line.substr(0, equals), text, isReal, isReal ? 0 : std::atoi(text.c_str())});
+        }
     }
     return entries;
 }
@@ -39,7 +51,7 @@ std::vector<Entry> SavedEntries(const char* file)
 void SaveBare(const std::vector<Entry>& entries, const char* file)
 {
     for (const Entry& entry : entries)
-        WritePrivateProfileStringA(kSection, entry.key.c_str(), entry.text.c_str(), file);
+        WritePrivateProfileStringA(entry.section.c_str(), entry.key.c_str(), entry.text.c_str(), file);
 }
 
 void RestoreBare(const std::vector<Entry>& entries, const char* file)
@@ -47,10 +59,33 @@ void RestoreBare(const std::vector<Entry>& entries, const char* file)
     char text[256];
     for (const Entry& entry : entries) {
         if (entry.isReal)
-            GetPrivateProfileStringA(kSection, entry.key.c_str(), entry.text.c_str(), text, sizeof text, file);
+            GetPrivateProfileStringA(entry.section.c_str(), entry.key.c_str(), entry.text.c_str(), text, sizeof text,
+                                     file);
         else
-            GetPrivateProfileIntA(kSection, entry.key.c_str(), entry.whole, file);
+            GetPrivateProfileIntA(entry.section.c_str(), entry.key.c_str(), entry.whole, file);
     }
+}
+
+/// Compares the records' own saving and restoring with the bare calls for all that they have saved. False where they
+/// saved nothing.
+template <class Save, class Restore>
+bool Compare(const char* what, const HostFolder& host, int rounds, Save save, Restore restore)
+{
+    const char* const file = host.settings.c_str();
+    host.WriteSettings("");
+    save();
+    const std::vector<Entry> entries = EntriesOf(file);
+    if (entries.empty())
+        return false;
+    const auto [ownSave, bareSave] = bench::BestTimes(rounds, 1, save, [&] { SaveBare(entries, file); });
+    const auto [ownRestore, bareRestore] = bench::BestTimes(rounds, 1, restore, [&] { RestoreBare(entries, file); });
+    const std::string name = std::string("settings: ") + what;
+    bench::PrintRatio((name + ", saving / the same calls made bare").c_str(), ownSave / bareSave, "at most 1.05");
+    bench::PrintRatio((name + ", restoring / the same calls made bare").c_str(), ownRestore / bareRestore,
+                      "at most 1.05");
+    std::printf("  %zu keys: %.0f microseconds for a bare save, %.0f for a bare restore\n", entries.size(),
+                bareSave * 1e6, bareRestore * 1e6);
+    return true;
 }
 
 } // namespace
@@ -58,22 +93,21 @@ void RestoreBare(const std::vector<Entry>& entries, const char* file)
 int main()
 {
     const HostFolder host;
-    const char* const file = host.settings.c_str();
-    C2AxisOptionsInfo record;
-    record.vOptions_Save();
-    const std::vector<Entry> entries = SavedEntries(file);
-    if (entries.empty()) {
+    C2AxisOptionsInfo& record = *GetLast2xOptions();
+    const auto saveAll = [] {
+        for (const OptionPage& page : OptionPages())
+            page.save();
+    };
+    const auto restoreAll = [] {
+        for (const OptionPage& page : OptionPages())
+            page.restore();
+    };
+    const bool compared =
+        Compare(
+            "2-axis record", host, 1000, [&] { record.vOptions_Save(); }, [&] { record.vOptions_Restore(); }) &&
+        Compare("all records", host, 100, saveAll, restoreAll);
+    if (!compared) {
         std::printf("settings: nothing was saved\n");
         return 1;
     }
-
-    constexpr int kRounds = 1000;
-    const auto [save, bareSave] = bench::BestTimes(
-        kRounds, 1, [&] { record.vOptions_Save(); }, [&] { SaveBare(entries, file); });
-    const auto [restore, bareRestore] = bench::BestTimes(
-        kRounds, 1, [&] { record.vOptions_Restore(); }, [&] { RestoreBare(entries, file); });
-    bench::PrintRatio("settings: saving / the same profile calls made bare", save / bareSave, "at most 1.05");
-    bench::PrintRatio("settings: restoring / the same profile calls made bare", restore / bareRestore, "at most 1.05");
-    std::printf("%-60s %8.1f\n", "  microseconds for a bare save of all keys", bareSave * 1e6);
-    std::printf("%-60s %8.1f\n", "  microseconds for a bare restore of all keys", bareRestore * 1e6);
 }

@@ -32,7 +32,7 @@ template <class... Works> std::array<double, sizeof...(Works)> BestTimes(int rou
 /// One line of the table: what is compared, the ratio, and the bound that is aimed at.
 inline void PrintRatio(const char* what, double ratio, const char* aim)
 {
-    std::printf("%-60s %8.2f   %s\n", what, ratio, aim);
+    std::printf("%-72s %8.2f   %s\n", what, ratio, aim);
 }
 
 } // namespace bench

@@ -22,6 +22,7 @@ CPropertyPage::CPropertyPage(UINT templateId, UINT caption) : CDialog(templateId
     m_psp.dwSize = sizeof m_psp;
     m_psp.dwFlags = PSP_USECALLBACK;
     m_psp.hInstance = AfxGetResourceHandle();
+    m_psp.pszTemplate = MAKEINTRESOURCE(templateId);
     m_psp.pfnDlgProc = PageProc;
     m_psp.pfnCallback = PageCallback;
     if (caption && m_caption.LoadString(caption))
@@ -35,7 +36,6 @@ bool CPropertyPage::Prepare(CPropertySheet& sheet, PROPSHEETPAGEW& page)
     if (m_hWnd)
         return false;
     page = m_psp;
-    page.pszTemplate = MAKEINTRESOURCE(m_templateId);
     if (!FindResource(page.hInstance, page.pszTemplate, RT_DIALOG))
         page.hInstance = AfxFindResourceHandle(page.pszTemplate, RT_DIALOG);
     if (!m_caption.IsEmpty())
