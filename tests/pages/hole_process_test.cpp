@@ -939,6 +939,7 @@ protected:
     {
         Record record;
         record.StartupTemplate = startupTemplate;
+        sheet.reset(); // the page of an earlier one lives as long as it
         page = Fresh(record);
         sheet = std::make_unique<OpenSheet>(std::vector<CPropertyPage*>{page.get()});
     }
@@ -1060,6 +1061,30 @@ TEST_F(HoleTemplate, TheCurrentFolderStaysThatRelativeSettingsPathsKeepTheirMean
     EXPECT_EQ(before, fs::current_path());
     Cancel(OpenDialog());
     EXPECT_EQ(before, fs::current_path());
+}
+
+TEST_F(HoleTemplate, ATemplateThatIsNoPathDoesNotKeepTheDialogFromOpening)
+{
+    for (const std::string& odd :
+         {"\"" + elsewhere + "\\one.tvhpt\"", std::string("C:\\a\"b.tvhpt"), std::string("?*<>|"),
+          "C:\\" + std::string(400, 'x') + ".tvhpt", std::string(10000, 'x'), std::string(40000, 'x'),
+          std::string("C:\\no such folder\\one.tvhpt"), std::string("C:\\"), std::string("\x01\x02")}) {
+        Show(odd);
+        const HWND dialog = OpenDialog();
+        Choose(dialog, Wide(templates + "\\two.tvhpt"));
+        EXPECT_EQ(Wide(templates + "\\two.tvhpt"), ShownTemplate()) << odd.substr(0, 40);
+    }
+}
+
+TEST_F(HoleTemplate, AFolderThatIsNoneDoesNotKeepTheDialogFromOpening)
+{
+    for (const std::string& odd :
+         {std::string(), std::string(10000, 'x'), std::string("?*<>|"), std::string("C:\\no such folder")}) {
+        WritePrivateProfileStringA("DefaultPath", "HoleProcessTemplates", odd.c_str(), host.hostSettings.c_str());
+        Show("");
+        Choose(OpenDialog(), Wide(templates + "\\two.tvhpt"));
+        EXPECT_EQ(Wide(templates + "\\two.tvhpt"), ShownTemplate()) << odd.substr(0, 40);
+    }
 }
 
 } // namespace
