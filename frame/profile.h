@@ -2,7 +2,9 @@
 // buffer of MAX_PATH characters.
 #pragma once
 
+#include <algorithm>
 #include <cstring>
+#include <span>
 
 #include <windows.h>
 
@@ -24,6 +26,15 @@ void ReadText(const char* section, const char* key, const char* fallback, char (
     const size_t length = strnlen(fallback, Size - 1);
     std::memcpy(text, fallback, length);
     text[length] = '\0';
+}
+
+/// Copies the lines of a section, each ended by a terminator, and another one after the last. What does not fit is left
+/// out.
+inline void ReadSection(const char* section, std::span<char> lines, const char* file)
+{
+    std::ranges::fill(lines, '\0');
+    if (CanExist(file))
+        GetPrivateProfileSectionA(section, lines.data(), static_cast<DWORD>(lines.size() - 2), file);
 }
 
 inline int ReadWhole(const char* section, const char* key, int fallback, const char* file)

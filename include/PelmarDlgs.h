@@ -4,6 +4,8 @@
 // FinalizePelmarDlgsDLL. Everything is for the host's user-interface thread.
 #pragma once
 
+#include "dialogs/default_tools.h"
+#include "dialogs/defaults_file_chooser.h"
 #include "dialogs/nc_dialog.h"
 #include "expr/evaluator.h"
 #include "expr/expression_edits.h"

@@ -1,0 +1,414 @@
+#include "dialogs/default_tools.h"
+
+#include <iterator>
+
+#include "frame/settings_values.h"
+#include "frame/tool_library.h"
+#include "pages/option_page.h"
+#include "pages/page_controls.h"
+#include "resources/resource.h"
+
+namespace {
+
+struct ToolKindRow {
+    int button;
+    int text;
+    ToolEntryPoint choose;
+    ToolEntryPoint describe;
+    const char* section;
+    int builtIn[2]; ///< ids of the inch and the millimetre tool
+};
+
+// Threading tools are lathe tools, and face, corner-rounding and chamfer mills are mills to the tool library.
+constexpr ToolKindRow kKinds[] = {
+    {IDC_TOOLS_MILL,
+     IDC_TOOLS_MILL_TEXT,
+     ToolEntryPoint::GetMillTool,
+     ToolEntryPoint::LoadMillTool,
+     "MILLTIPI",
+     {44, 2139}},
+    {IDC_TOOLS_DRILL,
+     IDC_TOOLS_DRILL_TEXT,
+     ToolEntryPoint::GetDrillTool,
+     ToolEntryPoint::LoadDrillTool,
+     "DRILLTIPI",
+     {3, 2203}},
+    {IDC_TOOLS_LATHE,
+     IDC_TOOLS_LATHE_TEXT,
+     ToolEntryPoint::GetLatheTool,
+     ToolEntryPoint::LoadLatheTool,
+     "LATHETIPI",
+     {1, 1}},
+    {IDC_TOOLS_LATHE_DRILL,
+     IDC_TOOLS_LATHE_DRILL_TEXT,
+     ToolEntryPoint::GetLDrillTool,
+     ToolEntryPoint::LoadLDrillTool,
+     "LDRILLTIPI",
+     {74, 142}},
+    {IDC_TOOLS_PROBE,
+     IDC_TOOLS_PROBE_TEXT,
+     ToolEntryPoint::GetDgtzTool,
+     ToolEntryPoint::LoadDgtzTool,
+     "DGTZTIPI",
+     {1, 1}},
+    {IDC_TOOLS_EDM, IDC_TOOLS_EDM_TEXT, ToolEntryPoint::GetEdmTool, ToolEntryPoint::LoadEdmTool, "EDMTIPI", {10, 38}},
+    {IDC_TOOLS_THREAD,
+     IDC_TOOLS_THREAD_TEXT,
+     ToolEntryPoint::GetLatheTool,
+     ToolEntryPoint::LoadLatheTool,
+     "THREADTIPI",
+     {113, 113}},
+    {IDC_TOOLS_FACE_MILL,
+     IDC_TOOLS_FACE_MILL_TEXT,
+     ToolEntryPoint::GetMillTool,
+     ToolEntryPoint::LoadMillTool,
+     "FACEMILLTIPI",
+     {1007, 2167}},
+    {IDC_TOOLS_ROUND_MILL,
+     IDC_TOOLS_ROUND_MILL_TEXT,
+     ToolEntryPoint::GetMillTool,
+     ToolEntryPoint::LoadMillTool,
+     "ROUNDMILLTIPI",
+     {335, 2345}},
+    {IDC_TOOLS_CHAMFER_MILL,
+     IDC_TOOLS_CHAMFER_MILL_TEXT,
+     ToolEntryPoint::GetMillTool,
+     ToolEntryPoint::LoadMillTool,
+     "CHAMFERMILLTIPI",
+     {1100, 2161}},
+    {IDC_TOOLS_THREAD_MILL,
+     IDC_TOOLS_THREAD_MILL_TEXT,
+     ToolEntryPoint::GetThreadMillTool,
+     ToolEntryPoint::LoadThreadMillTool,
+     "THREADMILLTIPI",
+     {1, 1}},
+};
+static_assert(std::size(kKinds) == kToolKinds);
+constexpr const char* kUnitKeys[] = {"ToolDefUS", "ToolDefMM"};
+
+using Settings = CDefsNCToolsInfo;
+constexpr char kSection[] = "Settings";
+struct SettingsRow {
+    const char* key;
+    int Settings::*value;
+};
+constexpr SettingsRow kSettings[] = {
+    {"MillGaugeLength", &Settings::MillGaugeLength},
+    {"LatheGaugeLength", &Settings::LatheGaugeLength},
+    {"ToolSortBy", &Settings::ToolSortBy},
+};
+constexpr UINT kSortTypes[] = {IDS_SORT_BY_DIAMETER, IDS_SORT_BY_TOOL_NUMBER, IDS_SORT_BY_DATABASE_NUMBER};
+
+constexpr char kTopic[] = "tvaux-_toolsoptions_options_nc_defaults_tools.htm";
+constexpr HelpTopic kTopics[] = {
+    {IDOK, "tvaux-_popupsj_r_hidc_ok_button.htm"},
+    {IDCANCEL, "tvaux-_popupsa_i_hidc_cancel_button.htm"},
+    {ID_HELP, "tvaux-_popupsa_i_hidc_help_button.htm"},
+};
+
+// ---- the tool library ----
+
+/// A tool as the library fills it in. What else it holds of a tool is not used here.
+struct ToolRecord {
+    std::int32_t kind = 0;
+    std::int32_t id = 0;
+    char description[1576] = {};
+
+    /// The library's text, ended within the record whatever the library has done.
+    CString Description()
+    {
+        description[std::size(description) - 1] = '\0';
+        return CString(description);
+    }
+};
+static_assert(sizeof(ToolRecord) == 1584);
+
+/// Has the user choose a tool. False where nothing was chosen, or nobody can be asked.
+bool ChooseTool(ToolEntryPoint entryPoint, int currentId, ToolRecord& tool)
+{
+    if (entryPoint == ToolEntryPoint::GetDgtzTool || entryPoint == ToolEntryPoint::GetEdmTool) {
+        auto* const choose = ToolLibraryFunction<int(int, ToolRecord*)>(entryPoint);
+        return choose && choose(currentId, &tool) != 0;
+    }
+    auto* const choose = ToolLibraryFunction<int(int, ToolRecord*, int)>(entryPoint);
+    return choose && choose(currentId, &tool, 0) != 0;
+}
+
+bool DescribeTool(ToolEntryPoint entryPoint, int id, ToolRecord& tool)
+{
+    auto* const describe = ToolLibraryFunction<int(int, ToolRecord*)>(entryPoint);
+    return describe && describe(id, &tool) != 0;
+}
+
+int ToolUnits()
+{
+    auto* const units = ToolLibraryFunction<int()>(ToolEntryPoint::GetToolUnits);
+    return units ? UnitsOfHost(units()) : kInch;
+}
+
+void SetToolUnits(int units)
+{
+    if (auto* const set = ToolLibraryFunction<int(int)>(ToolEntryPoint::SetToolUnits))
+        set(units);
+}
+
+/// The text from its first character that is no blank on.
+void RemoveSpace(CString& text)
+{
+    int blanks = 0;
+    while (text.GetAt(blanks) == L' ')
+        ++blanks;
+    text = text.Mid(blanks);
+}
+
+Settings g_live;
+bool g_onlyBallTools = false;
+} // namespace
+
+// ---- the settings ----
+
+void CDefsNCToolsInfo::Defaults()
+{
+    *this = {};
+}
+
+void CDefsNCToolsInfo::Save()
+{
+    for (const SettingsRow& row : kSettings)
+        WriteWhole(kSection, row.key, this->*row.value);
+}
+
+void CDefsNCToolsInfo::Restore()
+{
+    for (const SettingsRow& row : kSettings)
+        this->*row.value = ReadWhole(kSection, row.key, this->*row.value);
+}
+
+CDefsNCToolsInfo* GetLastDefsNCToolsInfo()
+{
+    return &g_live;
+}
+
+int PelmarUI_nGetToolListSortBy()
+{
+    return g_live.ToolSortBy;
+}
+
+bool PelmarUI_nGetEnableOnlyBallTool()
+{
+    return g_onlyBallTools;
+}
+
+void PelmarUI_nSetEnableOnlyBallTool(bool enable)
+{
+    g_onlyBallTools = enable;
+}
+
+// ---- the dialog ----
+
+static_assert(int{CDefsNCToolsDlg::IDD} == IDD_TOOLS);
+
+IMPLEMENT_DYNCREATE(CDefsNCToolsDlg, CDialog)
+
+BEGIN_MESSAGE_MAP(CDefsNCToolsDlg, CNCDialog)
+    ON_WM_NCCREATE()
+    ON_COMMAND(ID_HELP, &CDefsNCToolsDlg::OnHelp)
+    ON_COMMAND(IDC_TOOLS_INCH, &CDefsNCToolsDlg::OnChooseUSTool)
+    ON_COMMAND(IDC_TOOLS_MILLIMETRE, &CDefsNCToolsDlg::OnChooseMetricTool)
+    ON_COMMAND(IDC_TOOLS_MILL, &CDefsNCToolsDlg::OnChooseMillTool)
+    ON_COMMAND(IDC_TOOLS_DRILL, &CDefsNCToolsDlg::OnChooseDrillTool)
+    ON_COMMAND(IDC_TOOLS_LATHE, &CDefsNCToolsDlg::OnChooseLatheTool)
+    ON_COMMAND(IDC_TOOLS_LATHE_DRILL, &CDefsNCToolsDlg::OnChooseLDrillTool)
+    ON_COMMAND(IDC_TOOLS_PROBE, &CDefsNCToolsDlg::OnChooseDgtzTool)
+    ON_COMMAND(IDC_TOOLS_EDM, &CDefsNCToolsDlg::OnChooseEDMTool)
+    ON_COMMAND(IDC_TOOLS_THREAD, &CDefsNCToolsDlg::OnChooseThreadTool)
+    ON_COMMAND(IDC_TOOLS_FACE_MILL, &CDefsNCToolsDlg::OnChooseFaceMillTool)
+    ON_COMMAND(IDC_TOOLS_ROUND_MILL, &CDefsNCToolsDlg::OnChooseCornerRoundTool)
+    ON_COMMAND(IDC_TOOLS_CHAMFER_MILL, &CDefsNCToolsDlg::OnChooseChamferMillTool)
+    ON_COMMAND(IDC_TOOLS_THREAD_MILL, &CDefsNCToolsDlg::OnChooseThreadMillTool)
+    ON_MESSAGE(kSetDefaultsMessage, &CDefsNCToolsDlg::SetDefaults)
+    ON_MESSAGE(kWriteToIniMessage, &CDefsNCToolsDlg::WriteToIni)
+END_MESSAGE_MAP()
+
+CDefsNCToolsDlg::CDefsNCToolsDlg(CWnd* parent) : CNCDialog(IDD, parent), m_units(ToolUnits()), m_unitsAtOpening(m_units)
+{
+}
+
+BOOL CDefsNCToolsDlg::OnInitDialog()
+{
+    CNCDialog::OnInitDialog();
+    FillList(*this, IDC_TOOLS_SORT_TYPE, kSortTypes);
+    return TRUE;
+}
+
+void CDefsNCToolsDlg::DoDataExchange(CDataExchange* exchange)
+{
+    CNCDialog::DoDataExchange(exchange);
+    DDX_Radio(exchange, IDC_TOOLS_INCH, m_units);
+    for (size_t kind = 0; kind < std::size(kKinds); ++kind) {
+        RemoveSpace(m_descriptions[kind]);
+        DDX_Text(exchange, kKinds[kind].text, m_descriptions[kind]);
+    }
+    DDX_Check(exchange, IDC_TOOLS_MILL_GAUGE_LENGTH, m_settings.MillGaugeLength);
+    DDX_Check(exchange, IDC_TOOLS_LATHE_GAUGE_LENGTH, m_settings.LatheGaugeLength);
+    DDX_CBIndex(exchange, IDC_TOOLS_SORT_TYPE, m_settings.ToolSortBy);
+}
+
+void CDefsNCToolsDlg::GetData(const OptNCDefToolsData* data)
+{
+    if (!data)
+        return;
+    m_tools = *data;
+    UpdateToolDesc();
+    m_settings = g_live;
+    UpdateData(FALSE);
+}
+
+void CDefsNCToolsDlg::SetData(OptNCDefToolsData* data)
+{
+    if (!data)
+        return;
+    UpdateData(TRUE);
+    *data = m_tools;
+    g_live = m_settings;
+}
+
+void CDefsNCToolsDlg::UpdateToolDesc()
+{
+    for (int kind = 0; kind < kToolKinds; ++kind)
+        Describe(kind, m_unitsAtOpening);
+}
+
+void CDefsNCToolsDlg::Describe(int kind, int units)
+{
+    ToolRecord tool;
+    if (DescribeTool(kKinds[kind].describe, m_tools.toolIds[kind][units], tool))
+        m_descriptions[kind] = tool.Description();
+}
+
+void CDefsNCToolsDlg::SetNewUnits(long units)
+{
+    if (units == m_units)
+        return;
+    m_units = units;
+    SetToolUnits(m_units);
+    for (int kind = 0; kind < kToolKinds; ++kind)
+        Describe(kind, m_units);
+    UpdateData(FALSE);
+}
+
+void CDefsNCToolsDlg::Choose(ToolKind kind)
+{
+    std::int32_t& id = m_tools.toolIds[kind][UnitsOfHost(m_units)];
+    ToolRecord tool;
+    if (!ChooseTool(kKinds[kind].choose, id, tool))
+        return;
+    id = tool.id;
+    m_descriptions[kind] = tool.Description();
+    UpdateData(FALSE);
+}
+
+LRESULT CDefsNCToolsDlg::SetDefaults(WPARAM, LPARAM)
+{
+    for (size_t kind = 0; kind < std::size(kKinds); ++kind)
+        for (size_t units = 0; units < std::size(kUnitKeys); ++units)
+            m_tools.toolIds[kind][units] =
+                ReadDefaultWhole(kKinds[kind].section, kUnitKeys[units], kKinds[kind].builtIn[units]);
+    for (const SettingsRow& row : kSettings)
+        m_settings.*row.value = ReadDefaultWhole(kSection, row.key, 0);
+    UpdateToolDesc();
+    return 0;
+}
+
+LRESULT CDefsNCToolsDlg::WriteToIni(WPARAM, LPARAM)
+{
+    m_settings.Save();
+    return 0;
+}
+
+void CDefsNCToolsDlg::OnCancel()
+{
+    SetToolUnits(m_unitsAtOpening);
+    CNCDialog::OnCancel();
+}
+
+LRESULT CDefsNCToolsDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    WatchForContextHelp(message, wParam);
+    if (message != WM_HELP)
+        return CNCDialog::WindowProc(message, wParam, lParam);
+    OnHelp();
+    return 1;
+}
+
+void CDefsNCToolsDlg::OnHelp()
+{
+    ShowHelp(kTopic, kTopics);
+}
+
+// ---- the buttons ----
+
+void CDefsNCToolsDlg::OnChooseUSTool()
+{
+    SetNewUnits(kInch);
+}
+
+void CDefsNCToolsDlg::OnChooseMetricTool()
+{
+    SetNewUnits(kMillimetre);
+}
+
+void CDefsNCToolsDlg::OnChooseMillTool()
+{
+    Choose(kMillTool);
+}
+
+void CDefsNCToolsDlg::OnChooseDrillTool()
+{
+    Choose(kDrillTool);
+}
+
+void CDefsNCToolsDlg::OnChooseLatheTool()
+{
+    Choose(kLatheTool);
+}
+
+void CDefsNCToolsDlg::OnChooseLDrillTool()
+{
+    Choose(kLatheDrillTool);
+}
+
+void CDefsNCToolsDlg::OnChooseDgtzTool()
+{
+    Choose(kProbeTool);
+}
+
+void CDefsNCToolsDlg::OnChooseEDMTool()
+{
+    Choose(kEdmTool);
+}
+
+void CDefsNCToolsDlg::OnChooseThreadTool()
+{
+    Choose(kThreadTool);
+}
+
+void CDefsNCToolsDlg::OnChooseFaceMillTool()
+{
+    Choose(kFaceMillTool);
+}
+
+void CDefsNCToolsDlg::OnChooseCornerRoundTool()
+{
+    Choose(kRoundMillTool);
+}
+
+void CDefsNCToolsDlg::OnChooseChamferMillTool()
+{
+    Choose(kChamferMillTool);
+}
+
+void CDefsNCToolsDlg::OnChooseThreadMillTool()
+{
+    Choose(kThreadMillTool);
+}
