@@ -17,10 +17,6 @@ endif()
 if(PELMAR_TRAP_UNDEFINED)
     target_compile_options(project_options INTERFACE -fsanitize=undefined -fsanitize-undefined-trap-on-error)
 endif()
-if(PELMAR_COVERAGE)
-    target_compile_options(project_options INTERFACE --coverage)
-    target_link_options(project_options INTERFACE --coverage)
-endif()
 
 if(WIN32)
     target_compile_definitions(project_options INTERFACE UNICODE _UNICODE STRICT NOMINMAX WINVER=0x0601

@@ -47,6 +47,23 @@ template <class Real> bool Parse(std::string_view text, Real& value)
     return true;
 }
 
+/// Reads the real that a stored text starts with, after blanks, tabs and one sign, in single precision. False, and the
+/// value as it was, where there is none or it is too large.
+inline bool ParseStored(std::string_view text, double& value)
+{
+    const size_t first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos)
+        return false;
+    text.remove_prefix(first);
+    if (text.front() == '+' && text.size() > 1 && text[1] != '-')
+        text.remove_prefix(1);
+    float single = 0;
+    if (!Parse(text, single))
+        return false;
+    value = double{single};
+    return true;
+}
+
 constexpr int kMaxDecimals = 50;
 
 /// Room for every double in fixed notation: a sign, 309 digits, the point, the decimals and a terminator.

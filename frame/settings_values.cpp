@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstring>
 
 #include <windows.h>
 
@@ -15,22 +14,6 @@ namespace {
 constexpr int kStoredDecimals = 6;
 constexpr size_t kRealCapacity = 256;
 
-/// Reads the number that a stored text starts with, after blanks and a sign, in single precision.
-bool ScanReal(std::string_view text, double& value)
-{
-    const size_t first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos)
-        return false;
-    text.remove_prefix(first);
-    if (text.front() == '+' && text.size() > 1 && text[1] != '-')
-        text.remove_prefix(1);
-    float single = 0;
-    if (!number_text::Parse(text, single))
-        return false;
-    value = double{single};
-    return true;
-}
-
 double ReadRealFrom(const char* file, const char* section, const char* key, double fallback)
 {
     number_text::FixedBuffer fallbackText;
@@ -38,8 +21,8 @@ double ReadRealFrom(const char* file, const char* section, const char* key, doub
     char text[kRealCapacity];
     profile::ReadText(section, key, fallbackText.data(), text, file);
     double value = fallback;
-    if (!ScanReal(text, value))
-        ScanReal(fallbackText.data(), value);
+    if (!number_text::ParseStored(text, value))
+        number_text::ParseStored(fallbackText.data(), value);
     return value;
 }
 

@@ -18,6 +18,15 @@ template <class Real> std::optional<Real> Parsed(const std::string& text)
     return std::nullopt;
 }
 
+std::optional<double> Stored(const std::string& text)
+{
+    double value = 12.75;
+    if (number_text::ParseStored(text, value))
+        return value;
+    EXPECT_EQ(12.75, value) << text;
+    return std::nullopt;
+}
+
 std::string Printed(double value, int decimals)
 {
     number_text::FixedBuffer buffer;
@@ -99,6 +108,21 @@ TEST(ParseNumber, RoundsToTheNearestOfTheType)
     EXPECT_EQ(0.10000000149011612, double{*Parsed<float>("0.100000")});
     EXPECT_EQ(16777216.0F, Parsed<float>("16777217"));
     EXPECT_EQ(9007199254740992.0, Parsed<double>("9007199254740993"));
+}
+
+TEST(ParseStoredNumber, SkipsBlanksAndTakesOneSign)
+{
+    EXPECT_EQ(0.07999999821186066, Stored("0.080000"));
+    EXPECT_EQ(-12.5, Stored(" \t -12.5"));
+    EXPECT_EQ(12.5, Stored(" +12.5"));
+    EXPECT_EQ(0.5, Stored("+.5"));
+}
+
+TEST(ParseStoredNumber, LeavesTheValueWhereThereIsNoNumberOrItIsTooLarge)
+{
+    for (const char* text :
+         {"", " \t", "+", "-", "+-1", "-+1", "++1", "--1", "- 1", "+ 1", "\n1", "nan", "1e39", "-1e400"})
+        EXPECT_EQ(std::nullopt, Stored(text)) << text;
 }
 
 TEST(PrintNumber, WritesFixedNotation)
