@@ -12,6 +12,7 @@ OpenModal::~OpenModal()
 {
     if (!IsOpen())
         return;
+    ui::DismissBoxes();
     PostMessage(window, WM_COMMAND, IDCANCEL, 0);
     ui::WaitForClose(window);
     ui::UiThread::Get().WaitForStarted();
@@ -48,6 +49,7 @@ OpenInside::OpenInside(CDialog& dialog, UINT templateId)
 
 OpenInside::~OpenInside()
 {
+    ui::DismissBoxes();
     ui::UiThread::Get().Call([this] { DestroyWindow(frame); });
 }
 

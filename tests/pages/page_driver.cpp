@@ -39,6 +39,7 @@ OpenSheet::~OpenSheet()
 {
     if (!IsOpen())
         return;
+    ui::DismissBoxes();
     PostMessage(window, WM_COMMAND, IDCANCEL, 0);
     ui::WaitForClose(window);
     ui::UiThread::Get().WaitForStarted();

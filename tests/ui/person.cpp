@@ -285,6 +285,15 @@ void Answer(const MessageBoxSeen& box, int button)
         Settle(window);
 }
 
+void DismissBoxes()
+{
+    constexpr int kMostBoxes = 10;
+    for (int count = 0; count < kMostBoxes && !Boxes(0).empty(); ++count) {
+        const MessageBoxSeen box = WaitForBox();
+        Answer(box, box.buttons.back());
+    }
+}
+
 void PointAt(HWND window)
 {
     RECT rect;

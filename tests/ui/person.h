@@ -57,6 +57,9 @@ void Click(HWND dialog, int id);
 /// Chooses an item of a list as the user does: the choice and its notification.
 void Choose(HWND dialog, int id, int index);
 void Answer(const MessageBoxSeen& box, int button);
+/// Answers the message boxes that are still open with their last button. For the end of a test that has failed: what it
+/// left open must not spoil the next one.
+void DismissBoxes();
 /// Rests the pointer on the middle of a window.
 void PointAt(HWND window);
 
