@@ -193,8 +193,8 @@ void CDefsSetupsheet::OnCbnSelchangeCbStyle()
 {
     if (!UpdateData(TRUE))
         return;
-    if (const int selected = m_styles.GetCurSel(); selected >= 0)
-        m_options.SetupStyle = static_cast<int>(m_styles.GetItemData(selected));
+    if (const std::optional<int> selected = SelectedIndex(*this, IDC_SHEET_STYLE))
+        m_options.SetupStyle = static_cast<int>(m_styles.GetItemData(*selected));
     EnableOutputs();
     UpdateData(FALSE);
 }
