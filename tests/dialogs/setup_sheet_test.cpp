@@ -481,16 +481,22 @@ TEST_F(SetupSheetDialog, TextsThatAreNoNumbersAreRefused)
 
 TEST_F(SetupSheetDialog, WhileAnEditIsRefusedNeitherTheStyleNorTheToolsBoxChangesAnything)
 {
-    // The focus stays in the edit: a list that is turned with the wheel, or a box that a program clicks.
-    Shown shown;
-    ui::Type(shown, kRapidRate, L"0");
+    Record record;
+    record.RapidRate = -1.0;
+    record.ToolingSetup = 0;
+    {
+        Shown shown(record, 0);
+        ui::Click(shown, kTooling);
+        ui::Answer(ui::WaitForBox(), IDOK);
+        shown.ExpectOutputs(true);
+        ExpectSame(record, shown.Stored());
+        ui::Type(shown, kRapidRate, L"1");
+    }
+    Shown shown(record, 0);
     ui::Choose(shown, kStyle, 1);
     ui::Answer(ui::WaitForBox(), IDOK);
     shown.ExpectOutputs(true);
-    EXPECT_EQ(1, shown.Stored().SetupStyle);
-    ui::Click(shown, kTooling);
-    ui::Answer(ui::WaitForBox(), IDOK);
-    shown.ExpectOutputs(true);
+    ExpectSame(record, shown.Stored());
     ui::Type(shown, kRapidRate, L"1");
 }
 
