@@ -6,7 +6,9 @@
 
 #include "dialogs/default_tools.h"
 #include "dialogs/defaults_file_chooser.h"
+#include "dialogs/nc_defaults.h"
 #include "dialogs/nc_dialog.h"
+#include "dialogs/setup_sheet.h"
 #include "expr/evaluator.h"
 #include "expr/expression_edits.h"
 #include "frame/module.h"

@@ -232,8 +232,7 @@ void TakeCheck(CPropertyPage& page, Record& record, std::span<const CheckRow<Rec
 }
 
 /// The user leaves an edit: takes the page's data and shows the field again. False when the data were refused.
-template <class Record>
-bool LeaveEdit(CPropertyPage& page, Record& record, std::span<const ExchangeRow<Record>> rows, int id)
+template <class Record> bool LeaveEdit(CWnd& page, Record& record, std::span<const ExchangeRow<Record>> rows, int id)
 {
     if (!page.UpdateData(TRUE))
         return false;
