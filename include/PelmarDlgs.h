@@ -5,6 +5,7 @@
 #pragma once
 
 #include "dialogs/nc_dialog.h"
+#include "dialogs/template_options.h"
 #include "expr/evaluator.h"
 #include "expr/expression_edits.h"
 #include "frame/module.h"
