@@ -444,6 +444,16 @@ TEST_F(Templates, AnOptionOfTheGrownListLeavesNoneOutInTheNext)
     EXPECT_EQ(kSortTexts, Items(kThirdSort));
 }
 
+TEST_F(Templates, TheListsMayBeFilledAnewAtAnyTime)
+{
+    Open();
+    ui::Choose(window, kFirstSort, 3);
+    ui::UiThread::Get().Call([&] { dialog->UpdateSortingOptions(kSortsAtStart); });
+    EXPECT_EQ(kSortTexts, Items(kFirstSort));
+    EXPECT_EQ(Without(kSortTexts, {L"size"}), Items(kSecondSort));
+    EXPECT_EQ(Twice(Without(kSortTexts, {L"size"})), Items(kThirdSort));
+}
+
 TEST_F(Templates, AThirdSortOptionAloneIsNoChange)
 {
     Open();
