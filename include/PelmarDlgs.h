@@ -9,6 +9,7 @@
 #include "dialogs/nc_defaults.h"
 #include "dialogs/nc_dialog.h"
 #include "dialogs/setup_sheet.h"
+#include "dialogs/template_options.h"
 #include "expr/evaluator.h"
 #include "expr/expression_edits.h"
 #include "frame/module.h"

@@ -83,6 +83,9 @@ public:                                                                         
 class AFX_CLASS CException : public CObject {
     DECLARE_DYNAMIC(CException)
 public:
+    /// The text for the user, cut off where it does not fit `capacity` characters. FALSE, and the text stays as it is,
+    /// where the exception has none: the user has been told already.
+    virtual BOOL GetErrorMessage(LPTSTR text, UINT capacity, UINT* helpContext = nullptr) const;
     void Delete();
 };
 

@@ -35,6 +35,11 @@ IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CUserException, CException)
 IMPLEMENT_DYNAMIC(CNotSupportedException, CException)
 
+BOOL CException::GetErrorMessage(LPTSTR, UINT, UINT*) const
+{
+    return FALSE;
+}
+
 void CException::Delete()
 {
     delete this;

@@ -254,6 +254,15 @@ LPCTSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON
 
 // ---- the window procedure ----
 
+namespace {
+void Report(const CException& exception)
+{
+    wchar_t text[512] = L"";
+    if (exception.GetErrorMessage(text, 512))
+        AfxMessageBox(text);
+}
+} // namespace
+
 LRESULT CALLBACK CWnd::WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     CWnd* const object = FromHandlePermanent(window);
@@ -266,7 +275,8 @@ LRESULT CALLBACK CWnd::WndProc(HWND window, UINT message, WPARAM wParam, LPARAM 
     try {
         result = object->WindowProc(message, wParam, lParam);
     } catch (CException* exception) {
-        // It must not unwind through the system's frames; whoever threw it has told the user.
+        // It must not unwind through the system's frames.
+        Report(*exception);
         exception->Delete();
     }
     if (message == WM_NCDESTROY && FromHandlePermanent(window) == object) {

@@ -13,6 +13,7 @@ constexpr UINT kOverridden = WM_APP + 2;
 constexpr UINT kTwice = WM_APP + 3;
 constexpr UINT kNested = WM_APP + 4;
 constexpr UINT kThrows = WM_APP + 5;
+constexpr UINT kThrowsText = WM_APP + 6;
 constexpr UINT kCommand = 0x8001;
 constexpr UINT kSmallCommand = 0x7FFF;
 constexpr UINT kSystemCommand = 0xF000;
@@ -47,6 +48,15 @@ BEGIN_MESSAGE_MAP(CBaseWindow, CWnd)
     ON_COMMAND(kCommand, &CBaseWindow::OnCommandInBase)
 END_MESSAGE_MAP()
 
+class CTextException : public CException {
+public:
+    BOOL GetErrorMessage(LPTSTR text, UINT capacity, UINT*) const override
+    {
+        lstrcpyn(text, L"Не вышло", static_cast<int>(capacity));
+        return TRUE;
+    }
+};
+
 class CDerivedWindow : public CBaseWindow {
 public:
     MSG seen{};
@@ -73,6 +83,7 @@ protected:
         log.push_back("throws");
         AfxThrowUserException();
     }
+    LRESULT OnThrowsText(WPARAM, LPARAM) { throw new CTextException; }
     BOOL OnNcCreate(CREATESTRUCTW* create)
     {
         log.push_back("nccreate " + std::to_string(create->cx));
@@ -118,6 +129,7 @@ BEGIN_MESSAGE_MAP(CDerivedWindow, CBaseWindow)
     ON_MESSAGE(kNested, &CDerivedWindow::OnNested)
     ON_MESSAGE(WM_GETTEXTLENGTH, &CDerivedWindow::OnGetTextLength)
     ON_MESSAGE(kThrows, &CDerivedWindow::OnThrows)
+    ON_MESSAGE(kThrowsText, &CDerivedWindow::OnThrowsText)
     ON_WM_NCCREATE()
     ON_WM_CHAR()
     ON_WM_SIZE()
@@ -271,6 +283,15 @@ TEST_F(MessageMap, LetsNoExceptionOutOfAHandler)
 {
     EXPECT_EQ(0, Send(kThrows));
     EXPECT_EQ(Log{"throws"}, window.log);
+    EXPECT_EQ(304, Send(kPlain, 3, 4));
+}
+
+TEST_F(MessageMap, ShowsTheTextOfAnExceptionThatLeavesAHandler)
+{
+    PostMessage(window.m_hWnd, kThrowsText, 0, 0);
+    const ui::MessageBoxSeen box = ui::WaitForBox();
+    EXPECT_EQ(L"Не вышло", box.text);
+    ui::Answer(box, IDOK);
     EXPECT_EQ(304, Send(kPlain, 3, 4));
 }
 

@@ -1,0 +1,88 @@
+#include "defaults_file.h"
+
+#include <algorithm>
+
+#include "frame/fixed_text.h"
+#include "module.h"
+
+namespace pelmar {
+namespace {
+
+constexpr size_t kTextCapacity = 1024;
+
+struct TextField {
+    const char* key;
+    std::string TemplateDefaults::*field;
+};
+constexpr TextField kTexts[] = {
+    {"TemplateFile", &TemplateDefaults::templateFile}, {"OwnText1", &TemplateDefaults::ownText1},
+    {"OwnText2", &TemplateDefaults::ownText2},         {"OwnText3", &TemplateDefaults::ownText3},
+    {"OwnText4", &TemplateDefaults::ownText4},         {"OwnText5", &TemplateDefaults::ownText5},
+};
+
+struct NumberField {
+    const char* key;
+    std::int32_t TemplateDefaults::*field;
+};
+constexpr NumberField kNumbers[] = {
+    {"OwnNumber1", &TemplateDefaults::ownNumber1},     {"OwnNumber2", &TemplateDefaults::ownNumber2},
+    {"OwnNumber3", &TemplateDefaults::ownNumber3},     {"HasDefaults", &TemplateDefaults::hasDefaults},
+    {"FirstSortKey", &TemplateDefaults::firstSortKey}, {"SecondSortKey", &TemplateDefaults::secondSortKey},
+    {"ThirdSortKey", &TemplateDefaults::thirdSortKey},
+};
+
+std::string File()
+{
+    char path[MAX_PATH] = {};
+    if (GetModuleFileNameA(Module(), path, MAX_PATH) >= MAX_PATH)
+        return std::string(MAX_PATH, 'x'); // no file can have it
+    return std::string(FolderOf(path)) + "PELMAR.INI";
+}
+
+std::string SectionOf(const TemplateDefaults& record)
+{
+    return "Operation" + std::to_string(record.operationId);
+}
+
+bool CanBeKept(const std::string& text)
+{
+    const auto isControl = [](char character) { return static_cast<unsigned char>(character) < ' '; };
+    return text.size() < kTextCapacity && std::ranges::none_of(text, isControl);
+}
+
+} // namespace
+
+void ReadDefaults(TemplateDefaults& record)
+{
+    const std::string file = File();
+    const std::string section = SectionOf(record);
+    const TemplateDefaults fresh;
+    for (const TextField& row : kTexts) {
+        char text[kTextCapacity + 2] = {}; // the platform drops the quotes after reading
+        profile::ReadText(section.c_str(), row.key, "", text, file.c_str());
+        record.*row.field = text;
+    }
+    for (const NumberField& row : kNumbers)
+        record.*row.field = profile::ReadWhole(section.c_str(), row.key, fresh.*row.field, file.c_str());
+}
+
+bool WriteDefaults(const TemplateDefaults& record)
+{
+    const std::string file = File();
+    const std::string section = SectionOf(record);
+    const auto write = [&](const char* key, const std::string& text) {
+        return profile::WriteText(section.c_str(), key, text.c_str(), file.c_str());
+    };
+    for (const TextField& row : kTexts)
+        if (!CanBeKept(record.*row.field))
+            return false;
+    for (const TextField& row : kTexts)
+        if (!write(row.key, '"' + record.*row.field + '"'))
+            return false;
+    for (const NumberField& row : kNumbers)
+        if (!write(row.key, std::to_string(record.*row.field)))
+            return false;
+    return true;
+}
+
+} // namespace pelmar
