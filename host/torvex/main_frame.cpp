@@ -1,5 +1,8 @@
 #include "main_frame.h"
 
+#include <PelmarDlgs.h>
+
+#include "nc_dialogs.h"
 #include "option_pages.h"
 #include "options_sheet.h"
 #include "resource.h"
@@ -13,6 +16,12 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_FILE_EXIT, &CMainFrame::OnExit)
     ON_COMMAND(ID_NC_OPTIONS, &CMainFrame::OnNcOptions)
     ON_COMMAND(ID_NC_OPTIONS_READ_ONLY, &CMainFrame::OnNcOptionsReadOnly)
+    ON_COMMAND(ID_NC_DEFAULTS, &CMainFrame::OnNcDefaults)
+    ON_COMMAND(ID_NC_DEFAULT_TOOLS, &CMainFrame::OnNcDefaultTools)
+    ON_COMMAND(ID_NC_DEFAULTS_FILE, &CMainFrame::OnNcDefaultsFile)
+    ON_COMMAND(ID_NC_TEMPLATES, &CMainFrame::OnNcTemplates)
+    ON_COMMAND(ID_NC_SETUP_SHEET, &CMainFrame::OnNcSetupSheet)
+    ON_COMMAND(ID_FILE_RESTART, &CMainFrame::OnRestart)
     ON_COMMAND(ID_UNITS_INCH, &CMainFrame::OnInch)
     ON_COMMAND(ID_UNITS_MILLIMETRE, &CMainFrame::OnMillimetre)
 END_MESSAGE_MAP()
@@ -27,6 +36,20 @@ CString Text(UINT id)
     CString text;
     text.LoadString(id);
     return text;
+}
+
+/// How the NC commands are offered.
+UINT DisplayMode()
+{
+    if (!HostSetting("DefaultDisplayParameter", "NcDisplayMode"))
+        return IDS_SHOWN_AS_TOOLBAR;
+    return HostSetting("DefaultDisplayParameter", "NcMenuIcons") ? IDS_SHOWN_AS_MENU_WITH_ICONS : IDS_SHOWN_AS_MENU;
+}
+
+CString SettingsInEffect()
+{
+    const UINT threeAxis = HostSetting("DefaultNCParameter", "Classic3Axis") ? IDS_CLASSIC_3_AXIS : IDS_MODERN_3_AXIS;
+    return Text(IDS_IN_EFFECT) + L"\n\n" + Text(DisplayMode()) + L"\n" + Text(threeAxis) + L"\n" + NcSettingsPath();
 }
 
 HFONT MakeMessageFont()
@@ -56,12 +79,19 @@ BOOL CMainFrame::Create()
                     IDC_SETTINGS_TEXT);
     m_text.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_font), TRUE);
 
+    LoadSettings();
+    return TRUE;
+}
+
+void CMainFrame::LoadSettings()
+{
     for (const OptionPage& page : OptionPages())
         page.restore();
+    vSSheetOptions_Restore();
+    GetLastDefsNCToolsInfo()->Restore();
     m_units = LoadUnits();
     ChangeUnits(m_units);
     ShowSettings();
-    return TRUE;
 }
 
 void CMainFrame::OnSize(UINT type, int width, int height)
@@ -94,6 +124,43 @@ void CMainFrame::OnNcOptions()
 void CMainFrame::OnNcOptionsReadOnly()
 {
     COptionsSheet(this, m_units, COptionsSheet::Use::Look).DoModal();
+}
+
+void CMainFrame::OnNcDefaults()
+{
+    ShowNcDefaults(this);
+    ShowSettings();
+}
+
+void CMainFrame::OnNcDefaultTools()
+{
+    ShowDefaultTools(this);
+    ShowSettings();
+}
+
+void CMainFrame::OnNcDefaultsFile()
+{
+    ShowDefaultsFileChooser(this);
+}
+
+void CMainFrame::OnNcTemplates()
+{
+    ShowTemplateOptions(this);
+}
+
+void CMainFrame::OnNcSetupSheet()
+{
+    ShowSetupSheetOptions(this, m_units);
+    ShowSettings();
+}
+
+/// What a restart of the program does for the NC module, and a word on what it brought into effect.
+void CMainFrame::OnRestart()
+{
+    FinalizePelmarDlgsDLL();
+    StartNcModule();
+    LoadSettings();
+    AfxMessageBox(SettingsInEffect(), MB_OK | MB_ICONINFORMATION);
 }
 
 void CMainFrame::OnInch()

@@ -15,11 +15,19 @@ protected:
     void OnExit();
     void OnNcOptions();
     void OnNcOptionsReadOnly();
+    void OnNcDefaults();
+    void OnNcDefaultTools();
+    void OnNcDefaultsFile();
+    void OnNcTemplates();
+    void OnNcSetupSheet();
+    void OnRestart();
     void OnInch();
     void OnMillimetre();
     DECLARE_MESSAGE_MAP()
 
 private:
+    /// Restores the records and shows the settings file, as at the program's start.
+    void LoadSettings();
     void ChangeUnits(int units);
     void ShowSettings();
 

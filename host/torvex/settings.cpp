@@ -5,6 +5,9 @@
 #include <string>
 
 #include <PelmarDlgs.h>
+#include <util.h>
+
+#include "resource.h"
 
 namespace {
 
@@ -21,7 +24,27 @@ const char* NcFile()
     return GetSettingsLocations().settingsFile.c_str();
 }
 
+/// Makes the folder of the NC settings file where it is missing: nothing could be saved without it.
+void MakeNcFolder()
+{
+    const std::string file = NcFile();
+    CreateDirectoryA(file.substr(0, file.rfind('\\')).c_str(), nullptr);
+}
+
 } // namespace
+
+void StartNcModule()
+{
+    if (!InitializePelmarDlgsDLL())
+        AfxMessageBox(IDS_NO_TOOL_LIBRARY);
+    util::IAppUI::GetInstance()->SetSettingsPath(HostFile());
+    MakeNcFolder();
+}
+
+bool HostSetting(const char* section, const char* key)
+{
+    return GetPrivateProfileIntA(section, key, 0, HostFile()) != 0;
+}
 
 int LoadUnits()
 {
@@ -31,12 +54,6 @@ int LoadUnits()
 void SaveUnits(int units)
 {
     WritePrivateProfileStringA(kSection, kUnitsKey, std::to_string(units).c_str(), HostFile());
-}
-
-void MakeNcFolder()
-{
-    const std::string file = NcFile();
-    CreateDirectoryA(file.substr(0, file.rfind('\\')).c_str(), nullptr);
 }
 
 CString NcSettingsPath()

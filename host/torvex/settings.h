@@ -3,12 +3,16 @@
 
 #include <afxwin.h>
 
+/// Starts the NC module's user interface, or starts it anew with the settings as they now stand, and says so where the
+/// tool library is missing.
+void StartNcModule();
+
+/// Whether a flag of the host's settings file is set. Off where it is absent.
+bool HostSetting(const char* section, const char* key);
+
 /// The units in which the user works: 0 inch, 1 millimetre.
 int LoadUnits();
 void SaveUnits(int units);
-
-/// Makes the folder of the NC settings file where it is missing: nothing could be saved without it.
-void MakeNcFolder();
 
 /// The file in which the NC options are saved, and what it holds; the text is empty while there is no file.
 CString NcSettingsPath();

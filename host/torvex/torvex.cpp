@@ -3,10 +3,8 @@
 
 #include <PelmarDlgs.h>
 #include <afxwin.h>
-#include <util.h>
 
 #include "main_frame.h"
-#include "resource.h"
 #include "settings.h"
 
 namespace {
@@ -29,10 +27,9 @@ public:
         GoToOwnFolder();
         if (!InitPelmarDlgsDLL())
             return FALSE;
-        if (!InitializePelmarDlgsDLL())
-            AfxMessageBox(IDS_NO_TOOL_LIBRARY);
-        util::IAppUI::GetInstance()->SetSettingsPath(GetSettingsLocations().hostSettingsFile.c_str());
-        MakeNcFolder();
+        // Loaded as long as the program runs: its lists outlive the calls that hand them out.
+        LoadLibrary(L"PELMAR.dll");
+        StartNcModule();
 
         auto* const frame = new CMainFrame;
         m_pMainWnd = frame;

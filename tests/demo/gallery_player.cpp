@@ -117,10 +117,42 @@ void PlayPages(const Host& host, HWND main)
     CloseSheet(sheet);
 }
 
+struct DialogRow {
+    UINT command;
+    const wchar_t* title;
+    const char* name;
+};
+constexpr DialogRow kDialogs[] = {
+    {ID_NC_DEFAULTS, L"Параметры ЧПУ", "nc-defaults"},
+    {ID_NC_DEFAULT_TOOLS, L"Параметры ЧПУ > Сервис", "default-tools"},
+    {ID_NC_DEFAULTS_FILE, L"Файл параметров ЧПУ", "defaults-file"},
+    {ID_NC_TEMPLATES, L"Шаблоны траекторий", "toolpath-templates"},
+    {ID_NC_SETUP_SHEET, L"Создание отчета", "setup-sheet"},
+};
+
+void Close(HWND dialog)
+{
+    PostMessage(dialog, WM_COMMAND, IDCANCEL, 0);
+    ExpectSoon("the dialog is closed", [&] { return !IsWindow(dialog); });
+}
+
+void PlayDialogs(const Host& host, HWND main)
+{
+    for (const DialogRow& row : kDialogs) {
+        PostMessage(main, WM_COMMAND, row.command, 0);
+        const HWND dialog = host.WaitForWindow(row.title);
+        PostMessage(dialog, WM_COMMAND, IDC_PAGE_DEFAULTS,
+                    reinterpret_cast<LPARAM>(GetDlgItem(dialog, IDC_PAGE_DEFAULTS)));
+        Picture(dialog, row.name);
+        Close(dialog);
+    }
+}
+
 void Play()
 {
     const Host host;
     const HWND main = host.WaitForWindow(L"TORVEX");
+    PlayDialogs(host, main);
     PlayPages(host, main);
     PostMessage(main, WM_CLOSE, 0, 0);
     Expect(host.WaitForEnd() == 0, "the program ended well");

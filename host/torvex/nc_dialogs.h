@@ -1,0 +1,11 @@
+// The dialogs of the NC module's global settings as the host shows them.
+#pragma once
+
+#include <afxwin.h>
+
+void ShowNcDefaults(CWnd* parent);
+void ShowDefaultTools(CWnd* parent);
+void ShowDefaultsFileChooser(CWnd* parent);
+void ShowTemplateOptions(CWnd* parent);
+/// `units`: 0 inch, 1 millimetre.
+void ShowSetupSheetOptions(CWnd* parent, int units);
