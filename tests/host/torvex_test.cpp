@@ -91,6 +91,34 @@ protected:
         SendMessage(m_sheet, PSM_SETCURSELID, 0, templateId);
         FindPage();
     }
+    /// Opens one of the dialogs of the NC settings from the menu.
+    HWND OpenDialog(UINT command, const wchar_t* title)
+    {
+        Command(command);
+        return ui::WaitForWindow(title, m_process.dwProcessId);
+    }
+    /// Presses OK; with an answer, the question about a restart comes first.
+    void Accept(HWND dialog, int answer = 0)
+    {
+        ui::Click(dialog, IDOK);
+        if (answer)
+            ui::Answer(ui::WaitForBox(m_process.dwProcessId), answer);
+        ASSERT_TRUE(ui::WaitForClose(dialog));
+    }
+    /// What the program says after its restart.
+    std::wstring Restart()
+    {
+        Command(ID_FILE_RESTART);
+        const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+        ui::Answer(box, IDOK);
+        return box.text;
+    }
+    std::string HostText() const
+    {
+        std::ifstream file(m_folder / L"TORVEXCore.INI", std::ios::binary);
+        return std::string{std::istreambuf_iterator<char>(file), {}};
+    }
+
     void FindPage()
     {
         m_page = nullptr;
@@ -299,6 +327,111 @@ TEST_F(Torvex, GoesOnWithoutTheToolLibraryAfterSayingSoOnce)
     OpenOptions();
     CloseOptions(IDOK);
     EXPECT_TRUE(ComesToWrite("SideRoughStep=0.800000"));
+    EXPECT_EQ(0u, Close());
+}
+
+// ---- the dialogs of the NC settings ----
+
+TEST_F(Torvex, StoresTheDisplayModeAfterTheQuestionAndShowsItAfterARestart)
+{
+    Start();
+    EXPECT_NE(std::wstring::npos, Restart().find(L"команды ЧПУ на панели инструментов"));
+    HWND dialog = OpenDialog(ID_NC_DEFAULTS, L"Параметры ЧПУ");
+    ui::Click(dialog, IDC_NCDEF_MENU);
+    Accept(dialog, IDNO);
+    EXPECT_EQ(std::string::npos, HostText().find("NcDisplayMode"));
+    dialog = OpenDialog(ID_NC_DEFAULTS, L"Параметры ЧПУ");
+    ui::Click(dialog, IDC_NCDEF_MENU);
+    ui::Click(dialog, IDC_NCDEF_CLASSIC_3_AXIS);
+    Accept(dialog, IDYES);
+    EXPECT_NE(std::string::npos, HostText().find("NcDisplayMode=1\r\n"));
+    const std::wstring inEffect = Restart();
+    EXPECT_NE(std::wstring::npos, inEffect.find(L"команды ЧПУ в выпадающем меню"));
+    EXPECT_NE(std::wstring::npos, inEffect.find(L"классическое 3-осевое фрезерование"));
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, KeepsTheNcDefaultsBetweenUses)
+{
+    Start();
+    HWND dialog = OpenDialog(ID_NC_DEFAULTS, L"Параметры ЧПУ");
+    ui::Click(dialog, IDC_NCDEF_LAST_TOOL);
+    ui::Click(dialog, IDC_NCDEF_FILTER_SPANS);
+    ui::Type(dialog, IDC_NCDEF_MAX_SPAN, L"1/4");
+    Accept(dialog);
+    EXPECT_TRUE(ComesToWrite("FilterMaxSpan=0.250000"));
+    dialog = OpenDialog(ID_NC_DEFAULTS, L"Параметры ЧПУ");
+    EXPECT_TRUE(ui::IsChecked(dialog, IDC_NCDEF_LAST_TOOL));
+    EXPECT_TRUE(ui::IsChecked(dialog, IDC_NCDEF_FILTER_SPANS));
+    EXPECT_EQ(L"0.2500", ui::TextOf(dialog, IDC_NCDEF_MAX_SPAN));
+    ui::Click(dialog, IDCANCEL);
+    ASSERT_TRUE(ui::WaitForClose(dialog));
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, DefaultsOfTheToolsAreShownAndKept)
+{
+    Start();
+    HWND dialog = OpenDialog(ID_NC_DEFAULT_TOOLS, L"Параметры ЧПУ > Сервис");
+    EXPECT_EQ(L"", ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT));
+    ui::Click(dialog, IDC_PAGE_DEFAULTS);
+    const std::wstring tool = ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT);
+    EXPECT_NE(L"", tool);
+    ui::Choose(dialog, IDC_TOOLS_SORT_TYPE, 2);
+    Accept(dialog);
+    EXPECT_TRUE(ComesToWrite("ToolSortBy=2"));
+    dialog = OpenDialog(ID_NC_DEFAULT_TOOLS, L"Параметры ЧПУ > Сервис");
+    EXPECT_EQ(tool, ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT));
+    EXPECT_EQ(2, ui::Selection(dialog, IDC_TOOLS_SORT_TYPE));
+    ui::Click(dialog, IDCANCEL);
+    ASSERT_TRUE(ui::WaitForClose(dialog));
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, AnotherDefaultsFileIsInUseAfterARestart)
+{
+    std::ofstream(m_folder / L"TORVEXCore.INI") << "[DefaultPath]\r\nNCDefaultPath=.\\NCDEFAULT\r\n";
+    Start();
+    std::ofstream(m_folder / L"NCDEFAULT" / L"Mill5.ini") << "[Options2x]\r\nRapidPlane=7\r\n";
+    const HWND dialog = OpenDialog(ID_NC_DEFAULTS_FILE, L"Файл параметров ЧПУ");
+    const HWND chooser = FindWindowEx(dialog, nullptr, L"#32770", nullptr);
+    ASSERT_NE(nullptr, chooser);
+    EXPECT_EQ((std::vector<std::wstring>{L"Mill5.ini"}), ui::Items(chooser, IDC_CHOOSER_FILES));
+    ui::Choose(chooser, IDC_CHOOSER_FILES, 0);
+    Accept(dialog, IDYES);
+    EXPECT_NE(std::wstring::npos, Restart().find(L"Mill5.ini"));
+    OpenOptions();
+    EXPECT_EQ(L"7.0000", ui::TextOf(m_page, IDC_2X_RAPID_PLANE));
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, KeepsTheTemplateOfAnOperationInThePostProcessorLibrary)
+{
+    Start();
+    const HWND dialog = OpenDialog(ID_NC_TEMPLATES, L"Шаблоны траекторий");
+    const HWND templates = FindWindowEx(dialog, nullptr, L"#32770", nullptr);
+    ASSERT_NE(nullptr, templates);
+    EXPECT_LT(3u, ui::Items(templates, IDC_TEMPLATES_OPERATION).size());
+    EXPECT_EQ(7u, ui::Items(templates, IDC_TEMPLATES_FIRST_SORT).size());
+    // What the dialog itself has shown counts as a change: OK asks.
+    Accept(dialog, IDNO);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, SavesTheSetupSheetsOptions)
+{
+    Start();
+    HWND dialog = OpenDialog(ID_NC_SETUP_SHEET, L"Создание отчета");
+    HWND sheet = FindWindowEx(dialog, nullptr, L"#32770", nullptr);
+    ASSERT_NE(nullptr, sheet);
+    ui::Type(sheet, IDC_SHEET_RAPID_RATE, L"0");
+    ui::Press(ui::Control(sheet, IDC_SHEET_RAPID_RATE), VK_RETURN);
+    ui::Answer(ui::WaitForBox(m_process.dwProcessId), IDOK);
+    EXPECT_TRUE(IsWindow(dialog));
+    ui::Type(sheet, IDC_SHEET_RAPID_RATE, L"500+1/2");
+    Accept(dialog);
+    EXPECT_TRUE(ComesToWrite("RapidRate=500.500000"));
     EXPECT_EQ(0u, Close());
 }
 
