@@ -1,6 +1,7 @@
 #include "dialogs/setup_sheet.h"
 
 #include "frame/module.h"
+#include "pages/description.h"
 #include "pages/option_page.h"
 #include "pages/page_controls.h"
 #include "pages/record.h"
@@ -39,6 +40,8 @@ constexpr ExchangeRow<Record> kExchange[] = {
     {IDC_SHEET_OPERATIONS, &Record::OperationsSetup, Binding::Check},
     {IDC_SHEET_UNIQUE_TOOLS, &Record::UniqueTools, Binding::Check},
 };
+
+const DescribedPage<Record> g_description(IDD_SETUP_SHEET, g_kind, kExchange);
 
 constexpr int kCurrentStyle = 1;
 

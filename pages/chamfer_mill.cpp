@@ -1,6 +1,7 @@
 #include "pages/chamfer_mill.h"
 
 #include "pages/choices.h"
+#include "pages/description.h"
 #include "pages/feature_mill_options.h"
 
 namespace {
@@ -39,6 +40,8 @@ constexpr ChoiceRow<Record> kChoices[] = {
     {IDC_FEATURE_ROUGH_DEPTH_TYPE, &Record::DefMaxRoughDOCType, kLengthTypes},
     {IDC_FEATURE_FINISH_DEPTH_TYPE, &Record::DefFinishDOCType, kLengthTypes},
 };
+
+const DescribedPage<Record> g_description(IDD_CHAMFER_MILL, g_kind, kExchange, kChoices);
 } // namespace
 
 // ---- the record's operations ----

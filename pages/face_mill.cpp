@@ -1,6 +1,7 @@
 #include "pages/face_mill.h"
 
 #include "pages/choices.h"
+#include "pages/description.h"
 #include "pages/feature_mill_options.h"
 
 namespace {
@@ -65,6 +66,8 @@ constexpr ChoiceRow<Record> kChoices[] = {
     {IDC_FEATURE_FINISH_DEPTH_TYPE, &Record::DefFinishDOCType, kLengthTypes},
     {IDC_FM_FEED_BETWEEN_TYPE, &Record::FeedBetweenType, kLengthTypes},
 };
+
+const DescribedPage<Record> g_description(IDD_FACE_MILL, g_kind, kExchange, kChoices);
 } // namespace
 
 // ---- the record's operations ----

@@ -1,6 +1,7 @@
 #include "pages/flat_surface.h"
 
 #include "pages/choices.h"
+#include "pages/description.h"
 #include "pages/page_controls.h"
 #include "pages/record.h"
 
@@ -62,6 +63,8 @@ constexpr ChoiceRow<Record> kChoices[] = {
     {IDC_FS_ISLAND_PLUNGES, &Record::IslandPlunges, kYesNo},
     {IDC_FS_ALIGN_PLUNGES, &Record::AlignPlunges, kNoYes},
 };
+
+const DescribedPage<Record> g_description(IDD_FS, g_kind, kExchange, kChoices);
 
 constexpr char kPageTopic[] = "pelmar-_options_3_axis_flat_surface_pocket_options.htm";
 constexpr char kStepSizeTopic[] = "pelmar-_cutctrlpopups_constant_cutter_radius_step_size.htm";

@@ -14,6 +14,7 @@ constexpr auto kExchange = GrooveSlotExchange(kOwn);
 constexpr auto kChoices = GrooveSlotChoices(kOwn);
 
 RecordKind<Record> g_kind("GrooveMill", kFields);
+const DescribedPage<Record> g_description(IDD_GROOVE_MILL, g_kind, kExchange, kChoices);
 } // namespace
 
 // ---- the record's operations ----

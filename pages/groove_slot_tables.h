@@ -4,6 +4,7 @@
 #include <array>
 
 #include "pages/choices.h"
+#include "pages/description.h"
 #include "pages/feature_mill_options.h"
 
 /// The fields that each of the two records names in its own way.

@@ -5,6 +5,7 @@
 #include "frame/fixed_text.h"
 #include "frame/module.h"
 #include "frame/settings_locations.h"
+#include "pages/description.h"
 #include "pages/page_controls.h"
 #include "pages/record.h"
 #include "resources/resource.h"
@@ -84,6 +85,8 @@ constexpr ExchangeRow<Record> kExchange[] = {
     {IDC_HOLE_SORT_BIAS_TO_VECTOR, &Record::SortBiasToVector, Binding::Check},
     {IDC_HOLE_RECALC_AUTO, &Record::RecalcAuto, Binding::Check},
 };
+
+const DescribedPage<Record> g_description(IDD_HOLE_PROCESS, g_kind, kExchange);
 
 constexpr UINT kSorts[] = {IDS_HOLE_SORT_MANUAL, IDS_HOLE_SORT_DISTANCE, IDS_HOLE_SORT_ORTHOGONAL};
 

@@ -7,6 +7,7 @@
 #include "frame/profile.h"
 #include "frame/settings_locations.h"
 #include "pages/choices.h"
+#include "pages/description.h"
 #include "pages/page_controls.h"
 #include "pages/record.h"
 
@@ -48,6 +49,8 @@ constexpr ChoiceRow<Record> kChoices[] = {
 constexpr CheckRow<Record> kChecks[] = {
     {IDC_LATHE_FOLLOW, &Record::Follow},
 };
+
+const DescribedPage<Record> g_description(IDD_LATHE, g_kind, kExchange, kChoices, kChecks);
 
 constexpr char kPageTopic[] = "pelmar-_options_hidd_lathe_cut_opt.htm";
 

@@ -1,6 +1,7 @@
 #include "pages/milling_2axis.h"
 
 #include "pages/choices.h"
+#include "pages/description.h"
 #include "pages/page_controls.h"
 #include "pages/record.h"
 
@@ -97,6 +98,8 @@ constexpr CheckRow<Record> kChecks[] = {
     {IDC_2X_ISLAND_PLUNGES, &Record::IslandPlunges},
     {IDC_2X_ALIGN_PLUNGES, &Record::AlignPlunges},
 };
+
+const DescribedPage<Record> g_description(IDD_2X, g_kind, kExchange, kChoices, kChecks);
 
 constexpr char kPageTopic[] = "pelmar-_options_hidd_2axis_cut_opt.htm";
 constexpr char kStepSizeTopic[] = "pelmar-_cutctrlpopups_constant_cutter_radius_step_size.htm";

@@ -1,6 +1,7 @@
 #include "pages/milling_3axis.h"
 
 #include "pages/choices.h"
+#include "pages/description.h"
 #include "pages/page_controls.h"
 #include "pages/record.h"
 
@@ -59,6 +60,8 @@ constexpr CheckRow<Record> kChecks[] = {
     {IDC_3X_SAVE_Z_SLICES, &Record::SaveZSlices},
     {IDC_3X_DISPLAY_LEAD_CHANGES, &Record::DisplayLeadChanges},
 };
+
+const DescribedPage<Record> g_description(IDD_3X, g_kind, kExchange, kChoices, kChecks);
 
 constexpr char kPageTopic[] = "pelmar-_options_hidd_3axis_cut_opt.htm";
 constexpr char kStepSizeTopic[] = "pelmar-_cutctrlpopups_constant_cutter_radius_step_size.htm";

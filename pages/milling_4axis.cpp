@@ -1,8 +1,6 @@
 #include "pages/milling_4axis.h"
 
-#include "pages/multi_axis_operation.h"
-#include "pages/page_controls.h"
-#include "resources/resource.h"
+#include "pages/multi_axis_tables.h"
 
 namespace {
 using Record = C4AxisOptionsInfo;
@@ -22,6 +20,8 @@ constexpr MultiAxisOperation<Record> kOperation{
     .pageTopic = "pelmar-_options_hidd_4axis_cut_opt.htm",
     .rotaryTopic = "pelmar-_optionspopups_hidc_4axisopts_rot_motion.htm",
 };
+
+const DescribedPage<Record> g_description = DescribedMultiAxisPage(kOperation);
 
 constexpr UINT kMotions[] = {IDS_MOTION_3_AXIS, IDS_MOTION_4_AXIS};
 

@@ -1,7 +1,6 @@
 #include "pages/milling_5axis.h"
 
-#include "pages/multi_axis_operation.h"
-#include "pages/page_controls.h"
+#include "pages/multi_axis_tables.h"
 #include "resources/resource.h"
 
 namespace {
@@ -18,6 +17,8 @@ constexpr MultiAxisOperation<Record> kOperation{
     .pageTopic = "pelmar-_options_hidd_5axis_cut_opt.htm",
     .rotaryTopic = "pelmar-_optionspopups_hidc_5axisopts_num_rot_axis.htm",
 };
+
+const DescribedPage<Record> g_description = DescribedMultiAxisPage(kOperation);
 
 constexpr const wchar_t* kAxisCounts[] = {L"0", L"1"};
 

@@ -2,40 +2,12 @@
 
 #include <cstring>
 
-#include "pages/choices.h"
 #include "pages/milling_4axis.h"
 #include "pages/milling_5axis.h"
-#include "pages/multi_axis_operation.h"
-#include "pages/page_controls.h"
+#include "pages/multi_axis_tables.h"
 #include "pages/rotary_dialog.h"
 
 namespace {
-template <class Record> constexpr ExchangeRow<Record> kExchange[] = {
-    {IDC_MX_FEED_BETWEEN_CLEARANCE, &Record::FeedBetweenClearance, kAnyReal},
-    {IDC_MX_MAX_FEED_BETWEEN, &Record::MaxFeedBetween, kAnyReal},
-    {IDC_MX_RAPID_PLANE, &Record::RapidPlane, kAnyReal},
-    {IDC_MX_RAPID_PLUNGE, &Record::RapidPlunge, kNotNegative},
-};
-
-constexpr UINT kToolVectors[] = {IDS_TOOL_VECTOR_AT_XY_MOVE, IDS_TOOL_VECTOR_AT_TOP, IDS_TOOL_VECTOR_AT_Z_MOVE,
-                                 IDS_TOOL_VECTOR_AT_BOTTOM};
-
-// The rotary list is not here: its field and its items are the operation's.
-template <class Record> constexpr ChoiceRow<Record> kChoices[] = {
-    {IDC_MX_FEED_BETWEEN_TYPE, &Record::FeedBetweenType, kLengthTypes},
-    {IDC_MX_FEED_BETWEEN_RATE, &Record::FeedBetweenRate, kFeedsBetween},
-    {IDC_MX_CHANGE_TOOL_AXIS, &Record::ChangeToolAxis, kToolVectors},
-    {IDC_MX_RAPID_FREQUENCY, &Record::RapidFrequency, kRapidFrequencies},
-    {IDC_MX_SIDE_STEP_MODE, &Record::SideStepMode, kSideStepModes},
-    {IDC_MX_SORT_TYPE, &Record::SortType, kPlainSorts},
-};
-
-template <class Record> constexpr CheckRow<Record> kChecks[] = {
-    {IDC_MX_LEAD_ON_FEED, &Record::LeadOnFeed},
-    {IDC_MX_VERTICAL_FOR_RAPID, &Record::VerticalForRapid},
-    {IDC_MX_WRITE_NORMAL, &Record::WriteNormal},
-};
-
 std::array<HelpTopic, 17> TopicsWith(const char* rotaryTopic)
 {
     return {{
@@ -115,17 +87,17 @@ template <class Record> void CMultiAxisPage<Record>::SetData(double axis[2][3])
 template <class Record> void CMultiAxisPage<Record>::DoDataExchange(CDataExchange* exchange)
 {
     CExpRegenPropertyPage::DoDataExchange(exchange);
-    ExchangeControls<Record>(exchange, m_options, kExchange<Record>);
+    ExchangeControls<Record>(exchange, m_options, kMultiAxisExchange<Record>);
 }
 
 template <class Record> BOOL CMultiAxisPage<Record>::OnSetActive()
 {
     if (m_firstActivation) {
-        AttachExpressionEdits<Record>(*this, kExchange<Record>, m_edits);
+        AttachExpressionEdits<Record>(*this, kMultiAxisExchange<Record>, m_edits);
         m_firstActivation = 0;
     }
     FillRotaryList();
-    FillChoices<Record>(*this, kChoices<Record>);
+    FillChoices<Record>(*this, kMultiAxisChoices<Record>);
     ShowLists();
     if (m_options.LeadOnFeed == 1)
         EnableControl(*this, IDC_MX_SIDE_STEP_MODE, false);
@@ -137,23 +109,23 @@ template <class Record> BOOL CMultiAxisPage<Record>::OnSetActive()
 template <class Record> void CMultiAxisPage<Record>::ShowLists()
 {
     SelectIndex(*this, IDC_MX_ROTARY, m_options.*m_operation.rotary);
-    ShowChoices<Record>(*this, m_options, kChoices<Record>);
-    ShowChecks<Record>(*this, m_options, kChecks<Record>);
+    ShowChoices<Record>(*this, m_options, kMultiAxisChoices<Record>);
+    ShowChecks<Record>(*this, m_options, kMultiAxisChecks<Record>);
 }
 
 template <class Record> void CMultiAxisPage<Record>::LeaveEdit(int id)
 {
-    ::LeaveEdit<Record>(*this, m_options, kExchange<Record>, id);
+    ::LeaveEdit<Record>(*this, m_options, kMultiAxisExchange<Record>, id);
 }
 
 template <class Record> void CMultiAxisPage<Record>::TakeChoice(int id)
 {
-    ::TakeChoice<Record>(*this, m_options, kChoices<Record>, id);
+    ::TakeChoice<Record>(*this, m_options, kMultiAxisChoices<Record>, id);
 }
 
 template <class Record> void CMultiAxisPage<Record>::TakeCheck(int id)
 {
-    ::TakeCheck<Record>(*this, m_options, kChecks<Record>, id);
+    ::TakeCheck<Record>(*this, m_options, kMultiAxisChecks<Record>, id);
 }
 
 template <class Record> void CMultiAxisPage<Record>::OnKillFFeedBetweenClearance()

@@ -79,6 +79,8 @@ public:
     RecordKind(const char* section, std::span<const Field<Record>> fields) : m_section(section), m_fields(fields) {}
 
     Record* Live() { return &m_live; }
+    const char* Section() const { return m_section; }
+    std::span<const Field<Record>> Fields() const { return m_fields; }
 
     /// Writes every key to the settings file, in the table's order.
     void Save(const Record& record) const

@@ -1,6 +1,7 @@
 #include "pages/round_mill.h"
 
 #include "pages/choices.h"
+#include "pages/description.h"
 #include "pages/feature_mill_options.h"
 
 namespace {
@@ -44,6 +45,8 @@ constexpr ChoiceRow<Record> kChoices[] = {
     {IDC_FEATURE_FINISH_DEPTH_TYPE, &Record::DefFinishDOCType, kLengthTypes},
     {IDC_RM_SIDE_CLEARANCE_TYPE, &Record::SideClearanceType, kLengthTypes},
 };
+
+const DescribedPage<Record> g_description(IDD_ROUND_MILL, g_kind, kExchange, kChoices);
 
 // What the page tells its siblings.
 constexpr WPARAM kSideClearanceTypeChosen = 0x8018;

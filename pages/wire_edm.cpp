@@ -2,6 +2,7 @@
 
 #include "frame/tool_library.h"
 #include "pages/choices.h"
+#include "pages/description.h"
 #include "pages/page_controls.h"
 #include "pages/record.h"
 
@@ -58,6 +59,8 @@ constexpr ChoiceRow<Record> kChoices[] = {
 constexpr CheckRow<Record> kChecks[] = {
     {IDC_EDM_DISPLAY_PLUNGE_CHANGES, &Record::DispPlungeChanges},
 };
+
+const DescribedPage<Record> g_description(IDD_EDM, g_kind, kExchange, kChoices, kChecks);
 
 constexpr char kPageTopic[] = "pelmar-_options_hidd_edm_cut_opt.htm";
 constexpr char kStepSizeTopic[] = "pelmar-_cutctrlpopups_constant_cutter_radius_step_size.htm";

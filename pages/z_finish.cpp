@@ -1,6 +1,7 @@
 #include "pages/z_finish.h"
 
 #include "pages/choices.h"
+#include "pages/description.h"
 #include "pages/page_controls.h"
 #include "pages/record.h"
 
@@ -47,6 +48,8 @@ constexpr ChoiceRow<Record> kChoices[] = {
 constexpr CheckRow<Record> kChecks[] = {
     {IDC_ZF_PLUNGE_WARNINGS, &Record::PlungeWarnings},
 };
+
+const DescribedPage<Record> g_description(IDD_ZF, g_kind, kExchange, kChoices, kChecks);
 
 constexpr char kPageTopic[] = "pelmar-_options_hidd_zfinish_options.htm";
 constexpr char kStepSizeTopic[] = "pelmar-_cutctrlpopups_constant_cutter_radius_step_size.htm";

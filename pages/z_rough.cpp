@@ -1,6 +1,7 @@
 #include "pages/z_rough.h"
 
 #include "pages/choices.h"
+#include "pages/description.h"
 #include "pages/page_controls.h"
 #include "pages/record.h"
 
@@ -83,6 +84,8 @@ constexpr CheckRow<Record> kChecks[] = {
     {IDC_ZR_PLUNGE_WARNINGS, &Record::PlungeWarnings},
     {IDC_ZR_ALIGN_PLUNGES, &Record::AlignPlunges},
 };
+
+const DescribedPage<Record> g_description(IDD_ZR, g_kind, kExchange, kChoices, kChecks);
 
 constexpr char kPageTopic[] = "pelmar-_options_hidd_zrough_pocket_opt.htm";
 constexpr char kStepSizeTopic[] = "pelmar-_cutctrlpopups_constant_cutter_radius_step_size.htm";
