@@ -1,9 +1,11 @@
 // What the code behind the pages adds to showing their templates in a property sheet.
 #include <cstdio>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include <ControlLib.h>
+#include <psapi.h>
 
 #include "bench/stopwatch.h"
 #include "module/host_folder.h"
@@ -131,14 +133,31 @@ Shown Measure(HWND closer, std::span<const OptionPage> rows, int rounds)
     return {own, bare, g_controls};
 }
 
+/// The memory that the process has in use after the sheet of all pages has been shown once, with or without their code.
+int PrintWorkingSet(HWND closer, bool withCode)
+{
+    if (withCode)
+        ShowPages(closer, OptionPages());
+    else
+        ShowBare(closer, TemplatesOf(OptionPages()));
+    PROCESS_MEMORY_COUNTERS memory{};
+    memory.cb = sizeof memory;
+    if (!g_shown || !GetProcessMemoryInfo(GetCurrentProcess(), &memory, sizeof memory))
+        return 1;
+    std::printf("%llu\n", static_cast<unsigned long long>(memory.WorkingSetSize));
+    return 0;
+}
+
 } // namespace
 
-int main()
+int main(int argc, char** argv)
 {
     const CWinApp application(L"TORVEX");
     const HostFolder host;
     InitPelmarDlgsDLL();
     const HWND closer = CreateCloser();
+    if (argc > 1)
+        return PrintWorkingSet(closer, argv[1] == std::string_view("--memory-of-pages"));
     const std::span<const OptionPage> all = OptionPages();
     const Shown first = Measure(closer, all.first(1), 40);
     const Shown whole = Measure(closer, all, 10);

@@ -66,20 +66,31 @@ void RestoreBare(const std::vector<Entry>& entries, const char* file)
     }
 }
 
+/// Lines of a section that no record has.
+std::string OtherLines(int count)
+{
+    std::string text = count > 0 ? "[OfTheHost]\r\n" : "";
+    for (int line = 0; line < count; ++line)
+        text += "Key" + std::to_string(line) + "=" + std::to_string(line) + "\r\n";
+    return text;
+}
+
 /// Compares the records' own saving and restoring with the bare calls for all that they have saved. False where they
 /// saved nothing.
-template <class Save, class Restore>
-bool Compare(const char* what, const HostFolder& host, int rounds, Save save, Restore restore)
+template <class Save, class Restore> bool Compare(const std::string& what, const HostFolder& host, int rounds,
+                                                  Save save, Restore restore, int otherLines = 0)
 {
     const char* const file = host.settings.c_str();
     host.WriteSettings("");
     save();
     const std::vector<Entry> entries = EntriesOf(file);
+    host.WriteSettings(OtherLines(otherLines));
+    save();
     if (entries.empty())
         return false;
     const auto [ownSave, bareSave] = bench::BestTimes(rounds, 1, save, [&] { SaveBare(entries, file); });
     const auto [ownRestore, bareRestore] = bench::BestTimes(rounds, 1, restore, [&] { RestoreBare(entries, file); });
-    const std::string name = std::string("settings: ") + what;
+    const std::string name = "settings: " + what;
     bench::PrintRatio((name + ", saving / the same calls made bare").c_str(), ownSave / bareSave, "at most 1.05");
     bench::PrintRatio((name + ", restoring / the same calls made bare").c_str(), ownRestore / bareRestore,
                       "at most 1.05");
@@ -102,10 +113,13 @@ int main()
         for (const OptionPage& page : OptionPages())
             page.restore();
     };
-    const bool compared =
-        Compare(
-            "2-axis record", host, 1000, [&] { record.vOptions_Save(); }, [&] { record.vOptions_Restore(); }) &&
-        Compare("all records", host, 100, saveAll, restoreAll);
+    const auto save = [&] { record.vOptions_Save(); };
+    const auto restore = [&] { record.vOptions_Restore(); };
+    bool compared =
+        Compare("2-axis record", host, 1000, save, restore) && Compare("all records", host, 100, saveAll, restoreAll);
+    for (const int lines : {10, 1000, 10000})
+        compared = compared && Compare("2-axis record in a file of " + std::to_string(lines) + " lines", host,
+                                       lines > 1000 ? 10 : 100, save, restore, lines);
     if (!compared) {
         std::printf("settings: nothing was saved\n");
         return 1;

@@ -18,13 +18,15 @@ namespace player {
 
 class Host {
 public:
-    Host()
+    /// `program`: of the current folder.
+    explicit Host(const std::wstring& program = L"TORVEX.EXE")
     {
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
-        wchar_t command[] = L".\\TORVEX.EXE";
-        if (!CreateProcessW(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &m_process))
-            throw std::runtime_error("TORVEX.EXE did not start");
+        std::wstring command = L".\\" + program;
+        if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                            &m_process))
+            throw std::runtime_error("the program did not start");
         CloseHandle(m_process.hThread);
     }
     /// A host that is still there when the play has failed is ended.

@@ -1,0 +1,32 @@
+# What a host's developer gets (cmake --install): headers, import libraries, DLLs and a CMake package. And what a user
+# gets (cpack): a folder with the reference host, ready to start.
+include(CMakePackageConfigHelpers)
+
+set(headers include/PelmarDlgs)
+install(FILES include/PelmarDlgs.h host/ControlLib/ControlLib.h host/util/util.h DESTINATION ${headers})
+foreach(folder frame expr pages dialogs)
+    install(DIRECTORY ${folder} DESTINATION ${headers} FILES_MATCHING PATTERN "*.h")
+endforeach()
+install(FILES resources/resource.h DESTINATION ${headers}/resources)
+install(DIRECTORY afx/include/ DESTINATION ${headers}/afx)
+install(TARGETS PelmarDlgs ControlLib util afx EXPORT PelmarDlgsTargets
+    RUNTIME DESTINATION bin ARCHIVE DESTINATION lib LIBRARY DESTINATION bin)
+file(GLOB runtimes "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/lib*.dll")
+install(FILES ${runtimes} DESTINATION bin)
+
+set(package lib/cmake/PelmarDlgs)
+install(EXPORT PelmarDlgsTargets NAMESPACE PelmarDlgs:: DESTINATION ${package})
+configure_package_config_file(cmake/PelmarDlgsConfig.cmake.in PelmarDlgsConfig.cmake INSTALL_DESTINATION ${package})
+write_basic_package_version_file(PelmarDlgsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/PelmarDlgsConfig.cmake" "${PROJECT_BINARY_DIR}/PelmarDlgsConfigVersion.cmake"
+    DESTINATION ${package})
+
+install(DIRECTORY "${PROJECT_BINARY_DIR}/TORVEX" DESTINATION . COMPONENT host EXCLUDE_FROM_ALL)
+set(CPACK_GENERATOR ZIP)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL host)
+set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
+set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY OFF)
+set(CPACK_PACKAGE_FILE_NAME TORVEX-${PROJECT_VERSION})
+include(CPack)
