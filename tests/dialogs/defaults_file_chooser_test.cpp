@@ -275,10 +275,11 @@ TEST_F(DefaultsFile, TheFolderBrowserStartsAtTheFolderAndCancelChangesNothing)
 {
     WriteFile(host.hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + nc + "\r\n");
     Show();
+    const StartFolderWatch watch;
     ui::Click(Window(), kBrowse);
     const FolderBrowser browser;
     EXPECT_EQ(L"Выбор папки настроек ЧПУ", browser.Title());
-    EXPECT_TRUE(ui::WaitUntil([&] { return browser.Selected() == L"NC"; }));
+    EXPECT_EQ(nc, watch.Folder());
     browser.Cancel();
     EXPECT_EQ(Wide(nc), ShownFolder());
 }

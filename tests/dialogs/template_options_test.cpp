@@ -6,6 +6,7 @@
 #include <util.h>
 
 #include "dialogs/dialog_driver.h"
+#include "dialogs/folder_browser_driver.h"
 #include "dialogs/pelmar_stub.h"
 #include "pages/page_driver.h"
 #include "ui/file_dialog.h"
@@ -857,6 +858,66 @@ TEST_F(Templates, ATypedDatabaseFolderIsAChange)
     IsChanged();
     ui::Type(window, kDatabase, L"D:\\Typed");
     EXPECT_TRUE(IsChanged());
+}
+
+// ---- choosing the database folder ----
+
+class DatabaseFolder : public Templates {
+protected:
+    DatabaseFolder()
+    {
+        for (const char* name : {"\\first", "\\second"})
+            fs::create_directories(host.folder + name);
+    }
+
+    void Browse(const std::string& from)
+    {
+        Open();
+        ui::Type(window, kDatabase, Wide(from));
+        IsChanged();
+        ui::Click(window, kChooseDatabase);
+    }
+    static std::wstring Wide(const std::string& text) { return CString(text.c_str()).GetString(); }
+};
+
+TEST_F(DatabaseFolder, IsBrowsedForFromWhereItIs)
+{
+    const StartFolderWatch watch;
+    Browse(host.folder + "\\first");
+    const FolderBrowser browser;
+    EXPECT_EQ(L"Выбор пути к БД шаблонов", browser.Title());
+    EXPECT_EQ(inside->frame, GetWindow(browser.window, GW_OWNER));
+    EXPECT_EQ(host.folder + "\\first", watch.Folder());
+    browser.Cancel();
+    EXPECT_EQ(Wide(host.folder + "\\first"), Text(kDatabase));
+    EXPECT_FALSE(IsChanged());
+}
+
+TEST_F(DatabaseFolder, IsTheChosenOne)
+{
+    Browse(host.folder + "\\first");
+    FolderBrowser().Choose(Wide(host.folder + "\\second"));
+    EXPECT_EQ(Wide(host.folder + "\\second"), Text(kDatabase));
+    Store();
+    EXPECT_EQ(host.folder + "\\second", StoredFolder());
+}
+
+TEST_F(DatabaseFolder, ChosenAnewIsAChangeEvenIfItIsTheSame)
+{
+    Browse(host.folder + "\\first");
+    FolderBrowser().Choose(Wide(host.folder + "\\first"));
+    EXPECT_TRUE(IsChanged());
+}
+
+TEST_F(DatabaseFolder, MayBeBrowsedForFromOneThatDoesNotExist)
+{
+    for (const std::string& folder : {std::string("Q:\\nowhere"), std::string(), std::string(1000, 'x')}) {
+        Browse(folder);
+        FolderBrowser().Cancel();
+        EXPECT_EQ(Wide(folder), Text(kDatabase));
+        EXPECT_FALSE(IsChanged());
+        Close();
+    }
 }
 
 // ---- libraries that are missing or hostile ----
