@@ -14,7 +14,7 @@ OpenModal::~OpenModal()
         return;
     ui::DismissBoxes();
     PostMessage(window, WM_COMMAND, IDCANCEL, 0);
-    ui::WaitForClose(window);
+    ui::WaitForCloseWithBoxes(window);
     ui::UiThread::Get().WaitForStarted();
 }
 
@@ -50,7 +50,9 @@ OpenInside::OpenInside(CDialog& dialog, UINT templateId)
 OpenInside::~OpenInside()
 {
     ui::DismissBoxes();
-    ui::UiThread::Get().Call([this] { DestroyWindow(frame); });
+    ui::UiThread::Get().Start([this] { DestroyWindow(frame); });
+    ui::WaitForCloseWithBoxes(frame);
+    ui::UiThread::Get().WaitForStarted();
 }
 
 void PostHostMessage(HWND dialog, UINT message)

@@ -41,7 +41,7 @@ OpenSheet::~OpenSheet()
         return;
     ui::DismissBoxes();
     PostMessage(window, WM_COMMAND, IDCANCEL, 0);
-    ui::WaitForClose(window);
+    ui::WaitForCloseWithBoxes(window);
     ui::UiThread::Get().WaitForStarted();
 }
 

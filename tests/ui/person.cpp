@@ -294,6 +294,14 @@ void DismissBoxes()
     }
 }
 
+bool WaitForCloseWithBoxes(HWND window)
+{
+    return WaitUntil([window] {
+        DismissBoxes();
+        return !IsWindow(window);
+    });
+}
+
 void PointAt(HWND window)
 {
     RECT rect;

@@ -60,6 +60,9 @@ void Answer(const MessageBoxSeen& box, int button);
 /// Answers the message boxes that are still open with their last button. For the end of a test that has failed: what it
 /// left open must not spoil the next one.
 void DismissBoxes();
+/// Waits for a window to close, dismissing what comes up meanwhile: a field that holds what is refused says so whenever
+/// it loses the focus.
+bool WaitForCloseWithBoxes(HWND window);
 /// Rests the pointer on the middle of a window.
 void PointAt(HWND window);
 

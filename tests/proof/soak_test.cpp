@@ -1,0 +1,179 @@
+// Every page and dialog is opened, used and closed many times, and must leave nothing behind.
+#include <cstdlib>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include <ControlLib.h>
+#include <PelmarDlgs.h>
+
+#include "module/host_folder.h"
+#include "option_pages.h"
+#include "ui/holdings.h"
+#include "ui/person.h"
+
+namespace {
+
+constexpr UINT kUse = WM_APP + 10;
+
+/// PELMAR_SOAK_ROUNDS, or a number that costs little.
+size_t Rounds()
+{
+    const char* const rounds = std::getenv("PELMAR_SOAK_ROUNDS");
+    return rounds ? std::strtoul(rounds, nullptr, 10) : 50;
+}
+
+/// Types into the first field, chooses from the first list and clicks the first box of a page or dialog.
+void Use(HWND dialog)
+{
+    bool typed = false, chosen = false, clicked = false;
+    for (HWND control = GetWindow(dialog, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
+        if (!IsWindowEnabled(control) || !IsWindowVisible(control))
+            continue;
+        const std::wstring name = ui::ClassOf(control);
+        const bool isBox = name == L"Button" && (GetWindowLong(control, GWL_STYLE) & BS_TYPEMASK) == BS_AUTOCHECKBOX;
+        if (name == L"Edit" && !typed) {
+            typed = true;
+            const std::wstring before = ui::TextOf(control);
+            SetFocus(control);
+            SendMessage(control, EM_SETSEL, 0, -1);
+            for (const wchar_t character : before)
+                SendMessage(control, WM_CHAR, character, 1);
+        } else if (name == L"ComboBox" && !chosen) {
+            chosen = true;
+            SendMessage(control, CB_SETCURSEL, 0, 0);
+            SendMessage(dialog, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), CBN_SELCHANGE),
+                        reinterpret_cast<LPARAM>(control));
+        } else if (isBox && !clicked) {
+            clicked = true;
+            SendMessage(control, BM_CLICK, 0, 0);
+        }
+    }
+}
+
+/// A sheet that uses its page and presses OK by itself.
+class CUsedSheet : public CPropertySheetTVEx {
+public:
+    CUsedSheet() : CPropertySheetTVEx(L"Лист") {}
+    BOOL OnInitDialog() override
+    {
+        PostMessage(kUse);
+        return CPropertySheetTVEx::OnInitDialog();
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message != kUse)
+            return CPropertySheetTVEx::WindowProc(message, wParam, lParam);
+        const auto page = reinterpret_cast<HWND>(SendMessage(PSM_GETCURRENTPAGEHWND));
+        Use(page);
+        ::SendMessage(page, kSetDefaultsMessage, 0, 0);
+        PostMessage(PSM_PRESSBUTTON, PSBTN_OK);
+        return 0;
+    }
+};
+
+class SoakOfPage : public testing::TestWithParam<size_t> {};
+
+TEST_P(SoakOfPage, LeavesNothing)
+{
+    const HostFolder host;
+    const OptionPage& row = OptionPages()[GetParam()];
+    ui::ExpectNothingLeft(
+        Rounds(),
+        [&row] {
+            const std::unique_ptr<CPropertyPage> page = row.make(kInch);
+            CUsedSheet sheet;
+            sheet.AddPage(page.get());
+            EXPECT_EQ(IDOK, sheet.DoModal());
+        },
+        10);
+}
+
+INSTANTIATE_TEST_SUITE_P(AllPages, SoakOfPage, testing::Range(size_t{0}, OptionPages().size()));
+
+/// Shows a dialog inside a host's window, fills it, uses it and lets it go.
+template <class Dialog, class Fill> void Soak(Fill fill)
+{
+    const HostFolder host;
+    ui::ExpectNothingLeft(
+        Rounds(),
+        [&] {
+            Dialog dialog;
+            ASSERT_TRUE(dialog.Create(Dialog::IDD));
+            fill(dialog);
+            Use(dialog.m_hWnd);
+            dialog.SendMessage(kSetDefaultsMessage);
+            dialog.UpdateData(TRUE);
+            dialog.DestroyWindow();
+        },
+        10);
+}
+
+TEST(SoakOfDialogs, NcDefaultsLeaveNothing)
+{
+    OptNCDefData data;
+    Soak<CDefsNCDefaultsDlg>([&](CDefsNCDefaultsDlg& dialog) {
+        dialog.GetData(&data);
+        dialog.UpdateData(FALSE);
+        dialog.SetData(&data);
+    });
+}
+
+TEST(SoakOfDialogs, DefaultToolsLeaveNothing)
+{
+    OptNCDefToolsData data;
+    Soak<CDefsNCToolsDlg>([&](CDefsNCToolsDlg& dialog) {
+        dialog.GetData(&data);
+        dialog.SetData(&data);
+    });
+}
+
+/// A child dialog needs a window around it.
+template <class Dialog, class Fill> void SoakInside(Fill fill)
+{
+    const HostFolder host;
+    std::unique_ptr<CWnd> owner;
+    ui::UiThread::Get().Call([&] {
+        owner = std::make_unique<CWnd>();
+        ASSERT_TRUE(
+            owner->CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW, CRect(0, 0, 800, 600), nullptr, 0));
+    });
+    ui::ExpectNothingLeft(
+        Rounds(),
+        [&] {
+            Dialog dialog;
+            ASSERT_TRUE(dialog.Create(Dialog::IDD, owner.get()));
+            fill(dialog);
+            dialog.ShowWindow(SW_SHOW);
+            Use(dialog.m_hWnd);
+            dialog.UpdateData(TRUE);
+            dialog.DestroyWindow();
+        },
+        10);
+    ui::UiThread::Get().Call([&] { owner->DestroyWindow(); });
+}
+
+TEST(SoakOfDialogs, TheDefaultsFileLeavesNothing)
+{
+    SoakInside<CNCDefaultPath>([](CNCDefaultPath&) {});
+}
+
+TEST(SoakOfDialogs, ToolpathTemplatesLeaveNothing)
+{
+    const HMODULE kept = LoadLibraryA("PELMAR.dll"); // as a host does
+    SoakInside<CTemplateOptions>([](CTemplateOptions& dialog) { dialog.SendMessage(kSetDefaultsMessage); });
+    FreeLibrary(kept);
+}
+
+TEST(SoakOfDialogs, TheSetupSheetLeavesNothing)
+{
+    SoakInside<CDefsSetupsheet>([](CDefsSetupsheet& dialog) {
+        dialog.GetData(kMillimetre);
+        dialog.SendMessage(kSetDefaultsMessage);
+        dialog.SetData();
+    });
+}
+
+} // namespace
