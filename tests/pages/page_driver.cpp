@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include <windowsx.h>
+
 #include "pages/dialogs.h"
 
 // ---- sheets ----
@@ -217,11 +219,25 @@ std::string Shown(const char* function)
 
 std::string TopicShownFor(HWND page, int control)
 {
-    if (control)
-        ui::PointAt(ui::Control(page, control));
-    ui::UiThread::Get().Call([&] { AfxGetApp()->m_bHelpMode = control != 0; });
-    PostMessage(page, WM_COMMAND, ID_HELP, 0);
-    ui::Settle(page);
+    // A message bears the place that the pointer had when it was posted. The display may have reported an earlier place
+    // late, so that the pointer jumped back for a moment.
+    const auto isAsked = [&] {
+        RECT target{};
+        if (control) {
+            ui::PointAt(ui::Control(page, control));
+            GetWindowRect(ui::Control(page, control), &target);
+        }
+        return ui::On([&] {
+            const DWORD place = GetMessagePos();
+            if (control && !PtInRect(&target, {GET_X_LPARAM(place), GET_Y_LPARAM(place)}))
+                return false;
+            AfxGetApp()->m_bHelpMode = control != 0;
+            SendMessage(page, WM_COMMAND, ID_HELP, 0);
+            return true;
+        });
+    };
+    if (!ui::WaitUntil(isAsked))
+        throw std::runtime_error("the pointer does not stay where it is put");
     return LastTopicShown();
 }
 
