@@ -169,14 +169,13 @@ TEST_F(DefaultsFile, AKeyEndsAtTheNamesFirstDot)
 
 TEST_F(DefaultsFile, OfSeveralKeysTheLastInByteOrderIsStored)
 {
-    for (const char* key : {"b", "B", "a", "Z"})
-        Write("NCDefaultFile", key, "");
+    // Neither the last line nor the last name of a dictionary: small letters come after capitals.
     WriteFile(host.hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + nc +
-                                     "\r\n[NCDefaultFile]\r\nzz=SHOP.INI\r\nZa=SHOP.INI\r\naa=SHOP.INI\r\n");
+                                     "\r\n[NCDefaultFile]\r\nZz=SHOP.INI\r\naa=SHOP.INI\r\nMm=SHOP.INI\r\n");
     Show();
     ChooseFile(L"SHOP.INI");
     Accept(IDYES);
-    EXPECT_EQ("zz", StoredKey());
+    EXPECT_EQ("aa", StoredKey());
 }
 
 TEST_F(DefaultsFile, NoRestoresWhatWasShownAtOpeningAndStoresNothing)
@@ -227,7 +226,7 @@ TEST_F(DefaultsFile, WhatIsTypedIsUndone)
     EXPECT_EQ(L"CURRENT.INI", ShownFile());
 }
 
-TEST_F(DefaultsFile, TypingWithoutAFolderAsksForOneAndBringsTheFirstOneBack)
+TEST_F(DefaultsFile, AnEmptyFactoryFolderAsksForOneAndBringsTheFirstOneBack)
 {
     Show();
     WriteFile(hostDefaults, "[NCDefaultFile]\r\nNCCurrentFileName=FACTORY.INI\r\n");
@@ -239,6 +238,24 @@ TEST_F(DefaultsFile, TypingWithoutAFolderAsksForOneAndBringsTheFirstOneBack)
     ui::Answer(box, IDOK);
     ui::Settle(Window());
     EXPECT_EQ(Wide(nc), ShownFolder());
+}
+
+TEST_F(DefaultsFile, TypingWithoutAFolderAsksForOneAndIsUndone)
+{
+    WriteFile(host.hostSettings, "");
+    Show();
+    const HWND edit = ui::Control(Window(), kFolder);
+    ui::FocusOn(Window(), kFolder);
+    PostMessage(edit, WM_CHAR, L'x', 1);
+    // Taking the text back changes the edit again, with the folder as empty as before.
+    for (int times = 0; times < 2; ++times) {
+        const ui::MessageBoxSeen box = ui::WaitForBox();
+        EXPECT_EQ(L"Укажите существующую папку", box.text);
+        ui::Answer(box, IDOK);
+    }
+    ui::Settle(Window());
+    EXPECT_FALSE(ui::IsBoxOpen());
+    EXPECT_EQ(L"", ShownFolder());
 }
 
 TEST_F(DefaultsFile, DefaultsAndYesStoreTheFactoryFolderAndFile)
@@ -353,9 +370,19 @@ TEST_F(DefaultsFile, LinesThatAreNoEntriesAreIgnored)
 
 TEST_F(DefaultsFile, ALongNameCountsUpToItsFirst511Characters)
 {
-    const std::string name = std::string(507, 'n');
+    // The start-up file is cut off likewise, so that the last of the keys that name it is found.
+    const std::string name(511, 'n');
     WriteFile(host.hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + nc + "\r\n[NCDefaultFile]\r\nNCCurrentFileName=" +
-                                     name + ".INIx\r\nlong=" + name + ".INIx\r\nTwice=SHOP.INI=x\r\n");
+                                     name + "\r\nlonger=" + name + "mm\r\nmore=" + std::string(510, 'n') + "\r\n");
+    Show();
+    Accept(IDYES);
+    EXPECT_EQ("longer", StoredKey());
+}
+
+TEST_F(DefaultsFile, ANameEndsAtASecondEqualsSign)
+{
+    WriteFile(host.hostSettings,
+              "[DefaultPath]\r\nNCDefaultPath=" + nc + "\r\n[NCDefaultFile]\r\nTwice=SHOP.INI=x\r\n");
     Show();
     ChooseFile(L"SHOP.INI");
     Accept(IDYES);
