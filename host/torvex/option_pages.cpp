@@ -16,10 +16,25 @@ template <class Page> std::unique_ptr<CPropertyPage> Make(int units)
     return page;
 }
 
+/// The operation has one of three names.
+template <class Record> void TakeDefaults(Record& record)
+{
+    if constexpr (requires { record.vOptions_Defaults(); })
+        record.vOptions_Defaults();
+    else if constexpr (requires { record.vOptions_Default(); })
+        record.vOptions_Default();
+    else
+        record.Defaults();
+}
+
 template <class Record> OptionPage Row(UINT tab, MakePage* make, Record* record, void (Record::*checkUnits)(long),
                                        void (Record::*restore)(), void (Record::*save)())
 {
-    return {tab, make, [record, restore] { (record->*restore)(); }, [record, save] { (record->*save)(); },
+    return {tab,
+            make,
+            [record] { TakeDefaults(*record); },
+            [record, restore] { (record->*restore)(); },
+            [record, save] { (record->*save)(); },
             [record, checkUnits](long units) { (record->*checkUnits)(units); }};
 }
 

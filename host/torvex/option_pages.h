@@ -11,6 +11,7 @@
 struct OptionPage {
     UINT tab; ///< string id of the tab's text: several pages share the title of their template
     std::function<std::unique_ptr<CPropertyPage>(int units)> make; ///< the page, filled and in these units
+    std::function<void()> defaults;                                ///< the record as the defaults file has it
     std::function<void()> restore;                                 ///< the record from the settings file
     std::function<void()> save;                                    ///< the record to the settings file
     std::function<void(long units)> convert;                       ///< the record to these units

@@ -1,8 +1,8 @@
 // Every key of every record with values that no sane file holds: the stated fallback or clamp holds, and no other key
 // is touched.
-#include <cmath>
+#include <algorithm>
 #include <filesystem>
-#include <sstream>
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -12,59 +12,29 @@
 #include "option_pages.h"
 #include "pages/description.h"
 #include "pages/page_driver.h"
+#include "settings_text.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-struct Entry {
-    std::string section;
-    std::string key;
-    std::string text;
+/// A record that is kept in the settings files.
+struct KeptRecord {
+    std::function<void()> defaults;
+    std::function<void()> restore;
+    std::function<void()> save;
 };
 
-/// What a settings file holds, line by line.
-std::vector<Entry> EntriesOf(const std::string& file)
+/// The records of all pages, and that of the setup sheet.
+std::vector<KeptRecord> KeptRecords()
 {
-    std::vector<Entry> entries;
-    std::string section;
-    std::istringstream lines(file);
-    for (std::string line; std::getline(lines, line);) {
-        if (line.ends_with('\r'))
-            line.pop_back();
-        const size_t equals = line.find('=');
-        if (line.starts_with('['))
-            section = line.substr(1, line.size() - 2);
-        else if (equals != std::string::npos)
-            entries.push_back({section, line.substr(0, equals), line.substr(equals + 1)});
-    }
-    return entries;
+    std::vector<KeptRecord> records;
+    for (const OptionPage& page : OptionPages())
+        records.push_back({page.defaults, page.restore, page.save});
+    records.push_back(
+        {[] { GetLastSSheetOptions()->vOptions_Defaults(); }, vSSheetOptions_Restore, vSSheetOptions_Save});
+    return records;
 }
-
-std::string FileOf(const std::vector<Entry>& entries)
-{
-    std::string file;
-    std::string section;
-    for (const Entry& entry : entries) {
-        if (entry.section != section)
-            file += "[" + (section = entry.section) + "]\r\n";
-        file += entry.key + "=" + entry.text + "\r\n";
-    }
-    return file;
-}
-
-std::string HighBytes()
-{
-    std::string text;
-    for (int byte = 128; byte < 256; ++byte)
-        text += static_cast<char>(byte);
-    return text;
-}
-
-const std::string kHostileTexts[] = {
-    "",           "   ",     std::string(10000, 'x'), std::string(10000, '9'), HighBytes(), "nan", "inf", "1e400", "-1",
-    "2147483648", "-1e-400",
-};
 
 bool IsReal(const Entry& entry)
 {
@@ -82,15 +52,28 @@ std::string Expected(const Entry& before, const std::string& hostile, const std:
     return hostile == "-1e-400" ? "0.000000" : before.text; // a number, only too small
 }
 
-/// Whether the record puts a value in bounds or reads it elsewhere. What it makes of one is tested with its page.
-bool HasRuleOfItsOwn(const Entry& entry)
+FieldDescription DescriptionOf(const Entry& entry)
 {
     for (const RecordDescription& record : DescribeRecords())
         for (const FieldDescription& field : record.fields)
-            if (record.section == entry.section && field.key == entry.key &&
-                (field.isClamped || !field.readSection.empty()))
-                return true;
-    return false;
+            if (record.section == entry.section && field.key == entry.key)
+                return field;
+    return {}; // the template of the holes, which is a text
+}
+
+/// Whether the record puts the value in bounds, which may bring another one in bounds with it, or reads it elsewhere.
+/// What it makes of which value is tested with its page.
+bool HasRuleOfItsOwn(const Entry& entry)
+{
+    const FieldDescription field = DescriptionOf(entry);
+    return field.isClamped || !field.readSection.empty();
+}
+
+std::vector<Entry> WithoutRules(const std::vector<Entry>& entries)
+{
+    std::vector<Entry> plain;
+    std::ranges::remove_copy_if(entries, std::back_inserter(plain), HasRuleOfItsOwn);
+    return plain;
 }
 
 class HostileSettings : public testing::TestWithParam<size_t> {
@@ -98,26 +81,33 @@ protected:
     HostileSettings()
     {
         host.WriteSettings("");
-        page.save();
-        entries = EntriesOf(host.ReadSettings());
+        host.WriteDefaults("");
+        record.defaults();
+        entries = Saved();
     }
     ~HostileSettings() override { Restore(FileOf(entries)); }
 
     void Restore(const std::string& file) const
     {
         host.WriteSettings(file);
-        page.restore();
+        record.restore();
     }
     /// What the record holds now, as it saves it.
     std::vector<Entry> Saved() const
     {
         host.WriteSettings("");
-        page.save();
+        record.save();
         return EntriesOf(host.ReadSettings());
+    }
+    std::string FileWith(size_t index, const std::string& text) const
+    {
+        std::vector<Entry> changed = entries;
+        changed[index].text = text;
+        return FileOf(changed);
     }
 
     HostFolder host;
-    const OptionPage& page = OptionPages()[GetParam()];
+    const KeptRecord record = KeptRecords()[GetParam()];
     std::vector<Entry> entries;
 };
 
@@ -127,21 +117,51 @@ TEST_P(HostileSettings, EachValueYieldsItsFallbackAndTouchesNoOther)
     for (size_t index = 0; index < entries.size(); ++index) {
         if (HasRuleOfItsOwn(entries[index]))
             continue;
-        for (const std::string& hostile : kHostileTexts) {
+        for (const std::string& hostile : HostileTexts()) {
             Restore(FileOf(entries));
-            std::vector<Entry> changed = entries;
-            changed[index].text = hostile;
-            Restore(FileOf(changed));
-            std::vector<Entry> expected = entries;
-            expected[index].text = Expected(entries[index], hostile, host.settings);
-            EXPECT_EQ(FileOf(expected), FileOf(Saved())) << entries[index].key << "=" << hostile.substr(0, 20);
+            Restore(FileWith(index, hostile));
+            const std::string expected = Expected(entries[index], hostile, host.settings);
+            EXPECT_EQ(FileWith(index, expected), FileOf(Saved())) << entries[index].key << "=" << hostile.substr(0, 20);
+        }
+    }
+}
+
+TEST_P(HostileSettings, EachDefaultYieldsItsFallbackAndTouchesNoOther)
+{
+    for (size_t index = 0; index < entries.size(); ++index) {
+        const FieldDescription field = DescriptionOf(entries[index]);
+        // Units of no sense scale all lengths there and back.
+        if (field.key == "Units" || HasRuleOfItsOwn(entries[index]))
+            continue;
+        for (const std::string& hostile : HostileTexts()) {
+            host.WriteDefaults(FileWith(index, hostile));
+            record.defaults();
+            const std::string expected =
+                field.isInDefaultsFile ? Expected(entries[index], hostile, host.defaults) : entries[index].text;
+            EXPECT_EQ(FileWith(index, expected), FileOf(Saved())) << entries[index].key << "=" << hostile.substr(0, 20);
+            EXPECT_EQ(FileWith(index, hostile), ReadFile(host.defaults));
+        }
+    }
+}
+
+TEST_P(HostileSettings, AValueInBoundsStaysAndTouchesNoneThatHasNoBounds)
+{
+    for (size_t index = 0; index < entries.size(); ++index) {
+        if (!HasRuleOfItsOwn(entries[index]))
+            continue;
+        for (const std::string& hostile : HostileTexts()) {
+            Restore(FileWith(index, hostile));
+            const std::vector<Entry> first = Saved();
+            EXPECT_EQ(FileOf(WithoutRules(entries)), FileOf(WithoutRules(first)));
+            Restore(FileOf(first));
+            EXPECT_EQ(FileOf(first), FileOf(Saved())) << entries[index].key << "=" << hostile.substr(0, 20);
         }
     }
 }
 
 TEST_P(HostileSettings, ReadingChangesNothingInTheFile)
 {
-    for (const std::string& hostile : kHostileTexts) {
+    for (const std::string& hostile : HostileTexts()) {
         std::vector<Entry> changed = entries;
         for (Entry& entry : changed)
             entry.text = hostile;
@@ -154,7 +174,7 @@ TEST_P(HostileSettings, ASavedKeyLeavesTheOtherLinesOfTheFileAsTheyAre)
 {
     const std::string others = "; remark\r\n[Other]\r\nKey=Value\r\n" + HighBytes() + "=" + HighBytes() + "\r\n";
     host.WriteSettings(others);
-    page.save();
+    record.save();
     EXPECT_TRUE(host.ReadSettings().starts_with(others));
 }
 
@@ -179,15 +199,37 @@ TEST_P(HostileSettings, AFolderInTheFilesPlaceKeepsTheRecordAndSavingDoesNoHarm)
 {
     fs::remove(host.settings);
     fs::create_directory(host.settings);
-    page.restore();
-    page.save();
+    record.restore();
+    record.save();
     EXPECT_TRUE(fs::is_directory(host.settings));
     fs::remove(host.settings);
     EXPECT_EQ(FileOf(entries), FileOf(Saved()));
 }
 
+/// Another program that lets nobody write keeps the file as read-only as the attribute does, whoever runs the tests.
+TEST_P(HostileSettings, AFileThatMayOnlyBeReadIsReadAndStaysAsItIs)
+{
+    const auto units = std::ranges::find(entries, "Units", &Entry::key);
+    const std::string metric = FileWith(static_cast<size_t>(units - entries.begin()), "1");
+    host.WriteSettings(metric);
+    const HANDLE reader = CreateFileA(host.settings.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    ASSERT_NE(INVALID_HANDLE_VALUE, reader);
+    record.restore();
+    record.defaults();
+    record.save();
+    EXPECT_EQ(metric, host.ReadSettings());
+    CloseHandle(reader);
+    EXPECT_EQ(FileOf(entries), FileOf(Saved()));
+}
+
+INSTANTIATE_TEST_SUITE_P(AllRecords, HostileSettings, testing::Range(size_t{0}, KeptRecords().size()));
+
+/// The pages alone.
+class HostileRecordOnPage : public HostileSettings {};
+
 /// The page shows whatever the record holds, and leaves it alone until it is stored.
-TEST_P(HostileSettings, ThePageShowsWhateverTheRecordHolds)
+TEST_P(HostileRecordOnPage, IsShownAndLeftAlone)
 {
     for (const char* const hostile : {"2147483647", "-2147483648", "-1"}) {
         std::vector<Entry> changed = entries;
@@ -197,7 +239,7 @@ TEST_P(HostileSettings, ThePageShowsWhateverTheRecordHolds)
         Restore(FileOf(changed));
         const std::vector<Entry> before = Saved();
         std::unique_ptr<CPropertyPage> shown;
-        ui::UiThread::Get().Call([&] { shown = page.make(kInch); });
+        ui::UiThread::Get().Call([&] { shown = OptionPages()[GetParam()].make(kInch); });
         {
             OpenSheet sheet({shown.get()});
             EXPECT_TRUE(sheet.IsOpen());
@@ -209,6 +251,6 @@ TEST_P(HostileSettings, ThePageShowsWhateverTheRecordHolds)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(AllRecords, HostileSettings, testing::Range(size_t{0}, OptionPages().size()));
+INSTANTIATE_TEST_SUITE_P(AllPages, HostileRecordOnPage, testing::Range(size_t{0}, OptionPages().size()));
 
 } // namespace
