@@ -2,8 +2,7 @@
 
 #include "pages/choices.h"
 #include "pages/description.h"
-#include "pages/page_controls.h"
-#include "pages/record.h"
+#include "pages/record_page_tables.h"
 
 namespace {
 using Record = CFlatSurfaceOptionsInfo;
@@ -84,6 +83,8 @@ constexpr HelpTopic kTopics[] = {
     {IDC_FS_GOUGE_CHECK, "pelmar-_optionspopups_hidc_zfopts_gouge_check.htm"},
 };
 
+const PageTables<Record> kTables{g_kind, kExchange, kChoices, {}, kPageTopic, kTopics};
+
 // What the page tells its siblings.
 constexpr WPARAM kSideStepChanged = 0x801B;
 constexpr WPARAM kSideStepTypeChosen = 0x801C;
@@ -142,39 +143,13 @@ BEGIN_MESSAGE_MAP(CDefsFlatSurfacePage, CExpRegenPropertyPage)
     ON_MESSAGE(kSetDefaultsMessage, &CDefsFlatSurfacePage::SetDefaults)
 END_MESSAGE_MAP()
 
-CDefsFlatSurfacePage::CDefsFlatSurfacePage() : CExpRegenPropertyPage(IDD), m_options(*g_kind.Live()) {}
-
-void CDefsFlatSurfacePage::GetData(int units)
-{
-    m_options = g_kind.LiveInUnitsOf(units);
-}
-
-void CDefsFlatSurfacePage::DoDataExchange(CDataExchange* exchange)
-{
-    CExpRegenPropertyPage::DoDataExchange(exchange);
-    ExchangeControls<Record>(exchange, m_options, kExchange);
-}
+CDefsFlatSurfacePage::CDefsFlatSurfacePage() : CRecordPage(IDD, kTables, *g_kind.Live()) {}
 
 BOOL CDefsFlatSurfacePage::OnSetActive()
 {
-    if (m_firstActivation) {
-        AttachExpressionEdits<Record>(*this, kExchange, m_edits);
-        m_firstActivation = 0;
-    }
-    FillChoices<Record>(*this, kChoices);
-    ShowChoices<Record>(*this, m_options, kChoices);
+    ShowControls();
     ShowCheck(*this, IDC_FS_GOUGE_CHECK, m_options.GougeCheck != kGougeCheckOff);
     return CExpRegenPropertyPage::OnSetActive();
-}
-
-bool CDefsFlatSurfacePage::LeaveEdit(int id)
-{
-    return ::LeaveEdit<Record>(*this, m_options, kExchange, id);
-}
-
-void CDefsFlatSurfacePage::TakeChoice(int id)
-{
-    ::TakeChoice<Record>(*this, m_options, kChoices, id);
 }
 
 void CDefsFlatSurfacePage::OnChangeFSOptions()
@@ -240,14 +215,4 @@ LRESULT CDefsFlatSurfacePage::SetDefaults(WPARAM, LPARAM)
     return 0;
 }
 
-void CDefsFlatSurfacePage::OnOK()
-{
-    CExpRegenPropertyPage::OnOK();
-    *g_kind.Live() = m_options;
-    SetModified(FALSE);
-}
-
-void CDefsFlatSurfacePage::OnHelp()
-{
-    ShowHelp(kPageTopic, kTopics);
-}
+template class CRecordPage<CFlatSurfaceOptionsInfo>;

@@ -1,9 +1,8 @@
 // 3-axis pocketing of flat surfaces.
 #pragma once
 
-#include "expr/expression_edits.h"
 #include "frame/export.h"
-#include "pages/option_page.h"
+#include "pages/record_page.h"
 
 /// Default parameters of flat-surface pocketing, section "OptionsFlatSurface".
 ///
@@ -46,22 +45,16 @@ PELMAR_API CFlatSurfaceOptionsInfo* GetLastFlatSurfaceOptions();
 /// tells its siblings of the side step and cut modes.
 ///
 /// Depth first, plunge warnings and both kinds of plunges have no control in the template and pass through unchanged.
-class PELMAR_API CDefsFlatSurfacePage : public CExpRegenPropertyPage {
+class PELMAR_API CDefsFlatSurfacePage : public CRecordPage<CFlatSurfaceOptionsInfo> {
     DECLARE_DYNCREATE(CDefsFlatSurfacePage)
 public:
     enum { IDD = 106 };
 
     CDefsFlatSurfacePage();
 
-    /// Hands the page the host's units (1 millimetre, else inch) and fills it from the live record.
-    void GetData(int units);
-
     BOOL OnSetActive() override;
-    void OnOK() override;
 
 protected:
-    void DoDataExchange(CDataExchange* exchange) override;
-
     void OnChangeFSOptions();
     void OnKillFCornerAngle();
     void OnKillFCornerClearance();
@@ -73,15 +66,6 @@ protected:
     void OnSelMaterialCutMode();
     void OnSelPocketCutMode();
     void OnRestoreDefaults();
-    void OnHelp();
     LRESULT SetDefaults(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
-
-private:
-    bool LeaveEdit(int id);
-    void TakeChoice(int id);
-
-    int m_firstActivation = 1;
-    CExpEqEdit m_edits[3];
-    CFlatSurfaceOptionsInfo m_options;
 };

@@ -6,8 +6,7 @@
 #include "frame/module.h"
 #include "frame/settings_locations.h"
 #include "pages/description.h"
-#include "pages/page_controls.h"
-#include "pages/record.h"
+#include "pages/record_page_tables.h"
 #include "resources/resource.h"
 
 namespace {
@@ -188,6 +187,8 @@ constexpr HelpTopic kTopics[] = {
     {IDC_HOLE_BAND_WIDTH, "pelmar-_holeprocessing_hidc_hp_bandwidth.htm"},
 };
 
+const PageTables<Record> kTables{g_kind, kExchange, {}, {}, kPageTopic, kTopics};
+
 } // namespace
 
 // ---- the record's operations ----
@@ -260,12 +261,7 @@ BEGIN_MESSAGE_MAP(DefsHoleProcessPage, CExpRegenPropertyPage)
     ON_MESSAGE(kSetDefaultsMessage, &DefsHoleProcessPage::SetDefaults)
 END_MESSAGE_MAP()
 
-DefsHoleProcessPage::DefsHoleProcessPage() : CExpRegenPropertyPage(IDD), m_options(*g_kind.Live()) {}
-
-void DefsHoleProcessPage::GetData(int units)
-{
-    m_options = g_kind.LiveInUnitsOf(units);
-}
+DefsHoleProcessPage::DefsHoleProcessPage() : CRecordPage(IDD, kTables, *g_kind.Live()) {}
 
 void DefsHoleProcessPage::DoDataExchange(CDataExchange* exchange)
 {
@@ -286,10 +282,7 @@ void DefsHoleProcessPage::ExchangeTemplate(CDataExchange* exchange)
 
 BOOL DefsHoleProcessPage::OnSetActive()
 {
-    if (m_firstActivation) {
-        AttachExpressionEdits<Record>(*this, kExchange, m_edits);
-        m_firstActivation = 0;
-    }
+    ShowControls();
     FillList(*this, IDC_HOLE_SORT_TYPE, kSorts);
     SelectIndex(*this, IDC_HOLE_SORT_TYPE, m_options.SortType);
     ShowNormalIcons();
@@ -301,13 +294,6 @@ BOOL DefsHoleProcessPage::OnSetActive()
     vDisplayBandWidthSect();
     UpdateData(FALSE);
     return CExpRegenPropertyPage::OnSetActive();
-}
-
-void DefsHoleProcessPage::OnOK()
-{
-    CExpRegenPropertyPage::OnOK();
-    *g_kind.Live() = m_options;
-    SetModified(FALSE);
 }
 
 // ---- what the options allow ----
@@ -407,11 +393,6 @@ LRESULT DefsHoleProcessPage::SetDefaults(WPARAM, LPARAM)
 {
     m_options.Defaults();
     return 0;
-}
-
-void DefsHoleProcessPage::OnHelp()
-{
-    ShowHelp(kPageTopic, kTopics);
 }
 
 // ---- direction buttons ----
@@ -545,3 +526,5 @@ void DefsHoleProcessPage::OnSelAccurateLU()
 {
     TakeAccurateDir(3);
 }
+
+template class CRecordPage<HoleProcessDefsInfo>;

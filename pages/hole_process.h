@@ -3,9 +3,8 @@
 
 #include <string>
 
-#include "expr/expression_edits.h"
 #include "frame/export.h"
-#include "pages/option_page.h"
+#include "pages/record_page.h"
 
 /// Default parameters of hole processing, section "HoleProcessLocation".
 ///
@@ -48,7 +47,7 @@ public:
 PELMAR_API HoleProcessDefsInfo* GetLastHoleProcessDefsInfo();
 
 /// The page of the hole processing defaults. It edits a copy of the live record, which OK puts back; it writes no file.
-class PELMAR_API DefsHoleProcessPage : public CExpRegenPropertyPage {
+class PELMAR_API DefsHoleProcessPage : public CRecordPage<HoleProcessDefsInfo> {
     DECLARE_DYNCREATE(DefsHoleProcessPage)
 public:
     enum { IDD = 4159 };
@@ -56,11 +55,7 @@ public:
     /// Takes its copy of the live record at once.
     DefsHoleProcessPage();
 
-    /// Hands the page the host's units (1 millimetre, else inch) and fills it from the live record.
-    void GetData(int units);
-
     BOOL OnSetActive() override;
-    void OnOK() override;
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
@@ -81,7 +76,6 @@ protected:
     void OnSelAccurateLU();
     void OnCheckAccurateMode();
     void OnCheckBandWidth();
-    void OnHelp();
     LRESULT SetDefaults(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
@@ -102,8 +96,4 @@ private:
     void TakeMajorDir(int direction);
     void TakeStepDir(int direction);
     void TakeAccurateDir(int direction);
-
-    int m_firstActivation = 1;
-    CExpEqEdit m_edits[3];
-    HoleProcessDefsInfo m_options;
 };

@@ -8,8 +8,7 @@
 #include "frame/settings_locations.h"
 #include "pages/choices.h"
 #include "pages/description.h"
-#include "pages/page_controls.h"
-#include "pages/record.h"
+#include "pages/record_page_tables.h"
 
 namespace {
 using Record = CLatheOptionsInfo;
@@ -65,6 +64,8 @@ constexpr HelpTopic kTopics[] = {
     {IDC_LATHE_TOOL_GAUGE, "pelmar-_optionspopups_hidc_latheopts_tl_gauge.htm"}, // the template has no such control
     {IDC_RESTORE_DEFAULTS, "pelmar-_ncdlgs_defaults_button.htm"},
 };
+
+const PageTables<Record> kTables{g_kind, kExchange, kChoices, kChecks, kPageTopic, kTopics};
 
 // ---- the axis modes in the host settings file ----
 
@@ -139,18 +140,18 @@ BEGIN_MESSAGE_MAP(CDefsLathePage, CExpRegenPropertyPage)
     ON_MESSAGE(kWriteToIniMessage, &CDefsLathePage::WriteToIni)
 END_MESSAGE_MAP()
 
-CDefsLathePage::CDefsLathePage() : CExpRegenPropertyPage(IDD) {}
+CDefsLathePage::CDefsLathePage() : CRecordPage(IDD, kTables) {}
 
 void CDefsLathePage::GetData(int units)
 {
-    m_options = g_kind.LiveInUnitsOf(units);
+    CRecordPage::GetData(units);
     m_hideAxisModes = 1;
 }
 
 void CDefsLathePage::GetData(int units, const LatheAxisLabels* labels, const int* active,
                              const LatheAxisDirections* directions)
 {
-    m_options = g_kind.LiveInUnitsOf(units);
+    CRecordPage::GetData(units);
     for (int mode = 0; mode < kLatheAxisModes; ++mode) {
         m_axisModes[mode].active = active[mode];
         for (int axis = 0; axis < 3; ++axis) {
@@ -173,41 +174,14 @@ void CDefsLathePage::SetData(LatheAxisLabels* labels, int* active, LatheAxisDire
     }
 }
 
-void CDefsLathePage::DoDataExchange(CDataExchange* exchange)
-{
-    CExpRegenPropertyPage::DoDataExchange(exchange);
-    ExchangeControls<Record>(exchange, m_options, kExchange);
-}
-
 BOOL CDefsLathePage::OnSetActive()
 {
-    if (m_firstActivation) {
-        AttachExpressionEdits<Record>(*this, kExchange, m_edits);
-        m_firstActivation = 0;
-    }
-    FillChoices<Record>(*this, kChoices);
-    ShowLists();
+    ShowControls();
     if (m_hideAxisModes) {
         HideControl(*this, IDC_LATHE_RADIUS_AXES);
         HideControl(*this, IDC_LATHE_DIAMETER_AXES);
     }
     return CExpRegenPropertyPage::OnSetActive();
-}
-
-void CDefsLathePage::ShowLists()
-{
-    ShowChoices<Record>(*this, m_options, kChoices);
-    ShowChecks<Record>(*this, m_options, kChecks);
-}
-
-void CDefsLathePage::LeaveEdit(int id)
-{
-    ::LeaveEdit<Record>(*this, m_options, kExchange, id);
-}
-
-void CDefsLathePage::TakeChoice(int id)
-{
-    ::TakeChoice<Record>(*this, m_options, kChoices, id);
 }
 
 void CDefsLathePage::OnChangeEdit()
@@ -249,7 +223,7 @@ void CDefsLathePage::OnSelLeadOutType()
 
 void CDefsLathePage::OnSelFollow()
 {
-    TakeCheck<Record>(*this, m_options, kChecks, IDC_LATHE_FOLLOW);
+    TakeCheck(IDC_LATHE_FOLLOW);
 }
 
 /// Shows the sheet of one measure. Its modes change only by OK; that those of the other measure give way applies
@@ -301,14 +275,4 @@ LRESULT CDefsLathePage::WriteToIni(WPARAM, LPARAM)
     return 0;
 }
 
-void CDefsLathePage::OnOK()
-{
-    CExpRegenPropertyPage::OnOK();
-    *g_kind.Live() = m_options;
-    SetModified(FALSE);
-}
-
-void CDefsLathePage::OnHelp()
-{
-    ShowHelp(kPageTopic, kTopics);
-}
+template class CRecordPage<CLatheOptionsInfo>;

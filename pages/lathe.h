@@ -1,10 +1,9 @@
 // Turning.
 #pragma once
 
-#include "expr/expression_edits.h"
 #include "frame/export.h"
 #include "pages/lathe_axes.h"
-#include "pages/option_page.h"
+#include "pages/record_page.h"
 
 /// Default parameters of lathe operations, section "OptionsLathe".
 ///
@@ -42,7 +41,7 @@ using LatheAxisDirections = double[4][3]; ///< of one mode: rows X, Y, Z, a colu
 
 /// The page of the lathe defaults. It edits a copy of the live record, which OK puts back, and the host's four axis
 /// modes. It writes no file but on kWriteToIniMessage: the axis modes, to the host settings file.
-class PELMAR_API CDefsLathePage : public CExpRegenPropertyPage {
+class PELMAR_API CDefsLathePage : public CRecordPage<CLatheOptionsInfo> {
     DECLARE_DYNCREATE(CDefsLathePage)
 public:
     enum { IDD = 3937 };
@@ -58,11 +57,8 @@ public:
     void SetData(LatheAxisLabels* labels, int* active, LatheAxisDirections* directions) const;
 
     BOOL OnSetActive() override;
-    void OnOK() override;
 
 protected:
-    void DoDataExchange(CDataExchange* exchange) override;
-
     void OnChangeEdit();
     void OnKillFCornerAngle();
     void OnKillFCornerClearance();
@@ -74,7 +70,6 @@ protected:
     void OnRadialInputDisplay();
     void OnDiameterInputDisplay();
     void OnRestoreDefaults();
-    void OnHelp();
     LRESULT SetDefaults(WPARAM wParam, LPARAM lParam);
     LRESULT WriteToIni(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
@@ -83,14 +78,8 @@ private:
     /// Where the two axis modes of a measure, input and display, are among all of them.
     enum Measure { kByRadius = 0, kByDiameter = 2 };
 
-    void LeaveEdit(int id);
-    void TakeChoice(int id);
-    void ShowLists();
     void EditAxisModes(UINT caption, Measure edited, Measure other);
 
-    int m_firstActivation = 1;
-    CExpEqEdit m_edits[3];
-    CLatheOptionsInfo m_options;
     LatheAxisMode m_axisModes[kLatheAxisModes];
     int m_hideAxisModes = 0;
 };

@@ -2,8 +2,7 @@
 
 #include "pages/choices.h"
 #include "pages/description.h"
-#include "pages/page_controls.h"
-#include "pages/record.h"
+#include "pages/record_page_tables.h"
 
 namespace {
 using Record = C2AxisOptionsInfo;
@@ -143,6 +142,8 @@ constexpr HelpTopic kTopics[] = {
     {IDC_2X_THREAD_MILL_FEED_BETWEEN, "pelmar-_cutctrlpopups_threadmill_feed_between.htm"},
 };
 
+const PageTables<Record> kTables{g_kind, kExchange, kChoices, kChecks, kPageTopic, kTopics};
+
 // What the page tells its siblings.
 constexpr WPARAM kIslandDepthsChosen = 32772;
 constexpr WPARAM kSideClearanceChanged = 32791;
@@ -227,17 +228,17 @@ BEGIN_MESSAGE_MAP(CDefs2xPage, CExpRegenPropertyPage)
     ON_MESSAGE(kSetDefaultsMessage, &CDefs2xPage::SetDefaults)
 END_MESSAGE_MAP()
 
-CDefs2xPage::CDefs2xPage() : CExpRegenPropertyPage(IDD) {}
+CDefs2xPage::CDefs2xPage() : CRecordPage(IDD, kTables) {}
 
 void CDefs2xPage::GetData(int units)
 {
-    m_options = g_kind.LiveInUnitsOf(units);
+    CRecordPage::GetData(units);
     m_hideCompensation = 1;
 }
 
 void CDefs2xPage::GetData(int units, int lookAhead, int showToolpath)
 {
-    m_options = g_kind.LiveInUnitsOf(units);
+    CRecordPage::GetData(units);
     m_lookAhead = lookAhead;
     m_showToolpath = showToolpath;
     SelectIndex(*this, IDC_2X_LOOK_AHEAD, m_lookAhead);
@@ -250,32 +251,15 @@ void CDefs2xPage::SetData(int& lookAhead, int& showToolpath)
     showToolpath = m_showToolpath;
 }
 
-void CDefs2xPage::DoDataExchange(CDataExchange* exchange)
-{
-    CExpRegenPropertyPage::DoDataExchange(exchange);
-    ExchangeControls<Record>(exchange, m_options, kExchange);
-}
-
 BOOL CDefs2xPage::OnSetActive()
 {
-    if (m_firstActivation) {
-        AttachExpressionEdits<Record>(*this, kExchange, m_edits);
-        m_firstActivation = 0;
-    }
-    FillChoices<Record>(*this, kChoices);
-    ShowLists();
+    ShowControls();
+    EnableNestingDepth();
     ShowIslandDepths();
     ShowOptionsOfOperation();
     ShowCompensation();
     UpdateData(FALSE);
     return CExpRegenPropertyPage::OnSetActive();
-}
-
-void CDefs2xPage::ShowLists()
-{
-    ShowChoices<Record>(*this, m_options, kChoices);
-    ShowChecks<Record>(*this, m_options, kChecks);
-    EnableNestingDepth();
 }
 
 /// Depths that are not constant are for operations on islands alone.
@@ -320,21 +304,6 @@ void CDefs2xPage::ShowCompensation()
 void CDefs2xPage::EnableNestingDepth()
 {
     EnableControl(*this, IDC_2X_POCKET_NESTING_DEPTH, m_options.PocketNestingType == 1);
-}
-
-bool CDefs2xPage::LeaveEdit(int id)
-{
-    return ::LeaveEdit<Record>(*this, m_options, kExchange, id);
-}
-
-void CDefs2xPage::TakeChoice(int id)
-{
-    ::TakeChoice<Record>(*this, m_options, kChoices, id);
-}
-
-void CDefs2xPage::TakeCheck(int id)
-{
-    ::TakeCheck<Record>(*this, m_options, kChecks, id);
 }
 
 void CDefs2xPage::OnKillFMaxFeedBetween()
@@ -505,6 +474,7 @@ void CDefs2xPage::OnRestoreDefaults()
 {
     m_options.vOptions_Defaults();
     ShowLists();
+    EnableNestingDepth();
     SelectIndex(*this, IDC_2X_PATH_ISLAND_DEPTHS, m_options.PathIslandDepths);
     NotifySiblings(*this, kIslandDepthsChosen, m_options.PathIslandDepths);
     UpdateData(FALSE);
@@ -516,14 +486,4 @@ LRESULT CDefs2xPage::SetDefaults(WPARAM, LPARAM)
     return 0;
 }
 
-void CDefs2xPage::OnOK()
-{
-    CExpRegenPropertyPage::OnOK();
-    *g_kind.Live() = m_options;
-    SetModified(FALSE);
-}
-
-void CDefs2xPage::OnHelp()
-{
-    ShowHelp(kPageTopic, kTopics);
-}
+template class CRecordPage<C2AxisOptionsInfo>;

@@ -1,9 +1,8 @@
 // 2-axis milling: pocketing and contouring.
 #pragma once
 
-#include "expr/expression_edits.h"
 #include "frame/export.h"
-#include "pages/option_page.h"
+#include "pages/record_page.h"
 
 /// Default parameters of 2-axis milling operations, section "Options2x".
 ///
@@ -61,7 +60,7 @@ public:
 PELMAR_API C2AxisOptionsInfo* GetLast2xOptions();
 
 /// The page of the 2-axis defaults. It edits a copy of the live record, which OK puts back; it writes no file.
-class PELMAR_API CDefs2xPage : public CExpRegenPropertyPage {
+class PELMAR_API CDefs2xPage : public CRecordPage<C2AxisOptionsInfo> {
     DECLARE_DYNCREATE(CDefs2xPage)
 public:
     enum { IDD = 3926 };
@@ -80,11 +79,8 @@ public:
     void SetData(int& lookAhead, int& showToolpath);
 
     BOOL OnSetActive() override;
-    void OnOK() override;
 
 protected:
-    void DoDataExchange(CDataExchange* exchange) override;
-
     void OnKillFMaxFeedBetween();
     void OnKillFCornerAngle();
     void OnKillFCornerClearance();
@@ -118,23 +114,15 @@ protected:
     void OnSelLookAhead();
     void OnSelPEShowToolpath();
     void OnRestoreDefaults();
-    void OnHelp();
     LRESULT SetDefaults(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool LeaveEdit(int id);
-    void TakeChoice(int id);
-    void TakeCheck(int id);
-    void ShowLists();
     void ShowIslandDepths();
     void ShowOptionsOfOperation();
     void ShowCompensation();
     void EnableNestingDepth();
 
-    int m_firstActivation = 1;
-    CExpEqEdit m_edits[10];
-    C2AxisOptionsInfo m_options;
     int m_hideCompensation = 0;
     int m_lookAhead = 0;
     int m_showToolpath = 0;

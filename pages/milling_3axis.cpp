@@ -2,8 +2,7 @@
 
 #include "pages/choices.h"
 #include "pages/description.h"
-#include "pages/page_controls.h"
-#include "pages/record.h"
+#include "pages/record_page_tables.h"
 
 namespace {
 using Record = C3AxisOptionsInfo;
@@ -87,6 +86,8 @@ constexpr HelpTopic kTopics[] = {
     {IDC_3X_DISPLAY_LEAD_CHANGES, "pelmar-_optionspopups_hidc_3axisopts_dsp_changes.htm"},
     {IDC_RESTORE_DEFAULTS, "pelmar-_ncdlgs_defaults_button.htm"},
 };
+
+const PageTables<Record> kTables{g_kind, kExchange, kChoices, kChecks, kPageTopic, kTopics};
 } // namespace
 
 // ---- the record's operations ----
@@ -151,52 +152,15 @@ BEGIN_MESSAGE_MAP(CDefs3xPage, CExpRegenPropertyPage)
     ON_MESSAGE(kSetDefaultsMessage, &CDefs3xPage::SetDefaults)
 END_MESSAGE_MAP()
 
-CDefs3xPage::CDefs3xPage() : CExpRegenPropertyPage(IDD), m_options(*g_kind.Live()) {}
-
-void CDefs3xPage::GetData(int units)
-{
-    m_options = g_kind.LiveInUnitsOf(units);
-}
-
-void CDefs3xPage::DoDataExchange(CDataExchange* exchange)
-{
-    CExpRegenPropertyPage::DoDataExchange(exchange);
-    ExchangeControls<Record>(exchange, m_options, kExchange);
-}
+CDefs3xPage::CDefs3xPage() : CRecordPage(IDD, kTables, *g_kind.Live()) {}
 
 BOOL CDefs3xPage::OnSetActive()
 {
-    if (m_firstActivation) {
-        AttachExpressionEdits<Record>(*this, kExchange, m_edits);
-        m_firstActivation = 0;
-    }
-    FillChoices<Record>(*this, kChoices);
-    ShowLists();
+    ShowControls();
     // Only a click of the box gives the list back: neither a later activation nor restored defaults do.
     if (m_options.LeadOnFeed == 1)
         EnableControl(*this, IDC_3X_SIDE_STEP_MODE, false);
     return CExpRegenPropertyPage::OnSetActive();
-}
-
-void CDefs3xPage::ShowLists()
-{
-    ShowChoices<Record>(*this, m_options, kChoices);
-    ShowChecks<Record>(*this, m_options, kChecks);
-}
-
-bool CDefs3xPage::LeaveEdit(int id)
-{
-    return ::LeaveEdit<Record>(*this, m_options, kExchange, id);
-}
-
-void CDefs3xPage::TakeChoice(int id)
-{
-    ::TakeChoice<Record>(*this, m_options, kChoices, id);
-}
-
-void CDefs3xPage::TakeCheck(int id)
-{
-    ::TakeCheck<Record>(*this, m_options, kChecks, id);
 }
 
 void CDefs3xPage::OnKillFFeedBetweenClearance()
@@ -303,14 +267,4 @@ LRESULT CDefs3xPage::SetDefaults(WPARAM, LPARAM)
     return 0;
 }
 
-void CDefs3xPage::OnOK()
-{
-    CExpRegenPropertyPage::OnOK();
-    *g_kind.Live() = m_options;
-    SetModified(FALSE);
-}
-
-void CDefs3xPage::OnHelp()
-{
-    ShowHelp(kPageTopic, kTopics);
-}
+template class CRecordPage<C3AxisOptionsInfo>;

@@ -1,9 +1,8 @@
 // 3-axis milling: surface toolpaths.
 #pragma once
 
-#include "expr/expression_edits.h"
 #include "frame/export.h"
-#include "pages/option_page.h"
+#include "pages/record_page.h"
 
 /// Default parameters of 3-axis surface toolpaths, section "Options3x".
 ///
@@ -45,7 +44,7 @@ public:
 PELMAR_API C3AxisOptionsInfo* GetLast3xOptions();
 
 /// The page of the 3-axis defaults. It edits a copy of the live record, which OK puts back; it writes no file.
-class PELMAR_API CDefs3xPage : public CExpRegenPropertyPage {
+class PELMAR_API CDefs3xPage : public CRecordPage<C3AxisOptionsInfo> {
     DECLARE_DYNCREATE(CDefs3xPage)
 public:
     enum { IDD = 3933 };
@@ -53,15 +52,9 @@ public:
     /// Filled from the live record as it is.
     CDefs3xPage();
 
-    /// Hands the page the host's units (1 millimetre, else inch) and fills it from the live record.
-    void GetData(int units);
-
     BOOL OnSetActive() override;
-    void OnOK() override;
 
 protected:
-    void DoDataExchange(CDataExchange* exchange) override;
-
     void OnKillFFeedBetweenClearance();
     void OnKillFMaxFeedBetween();
     void OnKillFScallopSample();
@@ -81,17 +74,6 @@ protected:
     void OnSelSortType();
     void OnChangeOptionInfo();
     void OnRestoreDefaults();
-    void OnHelp();
     LRESULT SetDefaults(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
-
-private:
-    bool LeaveEdit(int id);
-    void TakeChoice(int id);
-    void TakeCheck(int id);
-    void ShowLists();
-
-    int m_firstActivation = 1;
-    CExpEqEdit m_edits[6];
-    C3AxisOptionsInfo m_options;
 };

@@ -3,8 +3,7 @@
 #include "frame/tool_library.h"
 #include "pages/choices.h"
 #include "pages/description.h"
-#include "pages/page_controls.h"
-#include "pages/record.h"
+#include "pages/record_page_tables.h"
 
 namespace {
 using Record = CEDMOptionsInfo;
@@ -84,6 +83,8 @@ constexpr HelpTopic kTopics[] = {
     {IDC_EDM_SHARP_CORNER_ANGLE, "pelmar-_optionspopups_hidc_edm_sharpcorner_angtol.htm"},
 };
 
+const PageTables<Record> kTables{g_kind, kExchange, kChoices, kChecks, kPageTopic, kTopics};
+
 // What the page tells its siblings, and what they ask it.
 constexpr WPARAM kToolLengthGauge = 32770; ///< with the chosen index
 constexpr WPARAM kSideClearanceChanged = 32797;
@@ -147,36 +148,14 @@ BEGIN_MESSAGE_MAP(CDefsEDMPage, CExpRegenPropertyPage)
     ON_MESSAGE(PSM_QUERYSIBLINGS, &CDefsEDMPage::OnToolLibGauge)
 END_MESSAGE_MAP()
 
-CDefsEDMPage::CDefsEDMPage() : CExpRegenPropertyPage(IDD) {}
-
-void CDefsEDMPage::GetData(int units)
-{
-    m_options = g_kind.LiveInUnitsOf(units);
-}
-
-void CDefsEDMPage::DoDataExchange(CDataExchange* exchange)
-{
-    CExpRegenPropertyPage::DoDataExchange(exchange);
-    ExchangeControls<Record>(exchange, m_options, kExchange);
-}
+CDefsEDMPage::CDefsEDMPage() : CRecordPage(IDD, kTables) {}
 
 BOOL CDefsEDMPage::OnSetActive()
 {
-    if (m_firstActivation) {
-        AttachExpressionEdits<Record>(*this, kExchange, m_edits);
-        m_firstActivation = 0;
-    }
-    FillChoices<Record>(*this, kChoices);
-    ShowLists();
+    ShowControls();
     EnableLists();
     UpdateData(FALSE);
     return CExpRegenPropertyPage::OnSetActive();
-}
-
-void CDefsEDMPage::ShowLists()
-{
-    ShowChoices<Record>(*this, m_options, kChoices);
-    ShowChecks<Record>(*this, m_options, kChecks);
 }
 
 void CDefsEDMPage::EnableLists()
@@ -185,16 +164,6 @@ void CDefsEDMPage::EnableLists()
     EnableControl(*this, IDC_EDM_GOUGE_CHECK, !locked);
     EnableControl(*this, IDC_EDM_SORT_TYPE, !locked);
     EnableControl(*this, IDC_EDM_TOOL_LENGTH_GAUGE, MaterialLibrarySwitch());
-}
-
-bool CDefsEDMPage::LeaveEdit(int id)
-{
-    return ::LeaveEdit<Record>(*this, m_options, kExchange, id);
-}
-
-void CDefsEDMPage::TakeChoice(int id)
-{
-    ::TakeChoice<Record>(*this, m_options, kChoices, id);
 }
 
 void CDefsEDMPage::OnKillFMaxFeedBetween()
@@ -280,7 +249,7 @@ void CDefsEDMPage::OnSelTLGauge()
 
 void CDefsEDMPage::OnSelDispPlungeChanges()
 {
-    TakeCheck<Record>(*this, m_options, kChecks, IDC_EDM_DISPLAY_PLUNGE_CHANGES);
+    TakeCheck(IDC_EDM_DISPLAY_PLUNGE_CHANGES);
 }
 
 LRESULT CDefsEDMPage::OnToolLibGauge(WPARAM code, LPARAM parameter)
@@ -301,14 +270,4 @@ LRESULT CDefsEDMPage::SetDefaults(WPARAM, LPARAM)
     return 0;
 }
 
-void CDefsEDMPage::OnOK()
-{
-    CExpRegenPropertyPage::OnOK();
-    *g_kind.Live() = m_options;
-    SetModified(FALSE);
-}
-
-void CDefsEDMPage::OnHelp()
-{
-    ShowHelp(kPageTopic, kTopics);
-}
+template class CRecordPage<CEDMOptionsInfo>;

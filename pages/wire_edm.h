@@ -1,9 +1,8 @@
 // Wire EDM: contouring.
 #pragma once
 
-#include "expr/expression_edits.h"
 #include "frame/export.h"
-#include "pages/option_page.h"
+#include "pages/record_page.h"
 
 /// Default parameters of wire EDM contouring, section "OptionsEDM". The file holds units, gouge check, sort type, sharp
 /// corner limit and tolerance; everything else belongs to hidden controls of the page and lives in memory only.
@@ -45,7 +44,7 @@ public:
 PELMAR_API CEDMOptionsInfo* GetLastEDMOptions();
 
 /// The page of the wire EDM defaults. It edits a copy of the live record, which OK puts back; it writes no file.
-class PELMAR_API CDefsEDMPage : public CExpRegenPropertyPage {
+class PELMAR_API CDefsEDMPage : public CRecordPage<CEDMOptionsInfo> {
     DECLARE_DYNCREATE(CDefsEDMPage)
 public:
     enum { IDD = 3934 };
@@ -56,15 +55,9 @@ public:
     unsigned char m_lockedByOperation = 0;
     unsigned char m_lockedByHost = 0;
 
-    /// Hands the page the host's units (1 millimetre, else inch) and fills it from the live record.
-    void GetData(int units);
-
     BOOL OnSetActive() override;
-    void OnOK() override;
 
 protected:
-    void DoDataExchange(CDataExchange* exchange) override;
-
     void OnKillFMaxFeedBetween();
     void OnKillFCornerAngle();
     void OnKillFCornerClearance();
@@ -82,19 +75,11 @@ protected:
     void OnSelTLGauge();
     void OnSelDispPlungeChanges();
     void OnRestoreDefaults();
-    void OnHelp();
     LRESULT SetDefaults(WPARAM wParam, LPARAM lParam);
     /// Answers a sibling that asks for the tool length gauge.
     LRESULT OnToolLibGauge(WPARAM code, LPARAM parameter);
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool LeaveEdit(int id);
-    void TakeChoice(int id);
-    void ShowLists();
     void EnableLists();
-
-    int m_firstActivation = 1;
-    CExpEqEdit m_edits[7];
-    CEDMOptionsInfo m_options;
 };

@@ -2,8 +2,7 @@
 
 #include "pages/choices.h"
 #include "pages/description.h"
-#include "pages/page_controls.h"
-#include "pages/record.h"
+#include "pages/record_page_tables.h"
 
 namespace {
 using Record = CZFinishOptionsInfo;
@@ -65,6 +64,8 @@ constexpr HelpTopic kTopics[] = {
     {IDC_ZF_GOUGE_CHECK, "pelmar-_optionspopups_hidc_zfopts_gouge_check.htm"},
     {IDC_ZF_PLUNGE_WARNINGS, "pelmar-_optionspopups_hidc_zfopts_plunge_warn.htm"},
 };
+
+const PageTables<Record> kTables{g_kind, kExchange, kChoices, kChecks, kPageTopic, kTopics};
 } // namespace
 
 // ---- the record's operations ----
@@ -113,41 +114,14 @@ BEGIN_MESSAGE_MAP(CDefsZFinishPage, CExpRegenPropertyPage)
     ON_MESSAGE(kSetDefaultsMessage, &CDefsZFinishPage::SetDefaults)
 END_MESSAGE_MAP()
 
-CDefsZFinishPage::CDefsZFinishPage() : CExpRegenPropertyPage(IDD), m_options(*g_kind.Live()) {}
-
-void CDefsZFinishPage::GetData(int units)
-{
-    m_options = g_kind.LiveInUnitsOf(units);
-}
-
-void CDefsZFinishPage::DoDataExchange(CDataExchange* exchange)
-{
-    CExpRegenPropertyPage::DoDataExchange(exchange);
-    ExchangeControls<Record>(exchange, m_options, kExchange);
-}
+CDefsZFinishPage::CDefsZFinishPage() : CRecordPage(IDD, kTables, *g_kind.Live()) {}
 
 BOOL CDefsZFinishPage::OnSetActive()
 {
-    if (m_firstActivation) {
-        AttachExpressionEdits<Record>(*this, kExchange, m_edits);
+    if (ShowControls())
         m_leadAngleEdit.SubclassDlgItem(IDC_ZF_LEAD_ANGLE_TOLERANCE, this);
-        m_firstActivation = 0;
-    }
-    FillChoices<Record>(*this, kChoices);
-    ShowChoices<Record>(*this, m_options, kChoices);
     ShowCheck(*this, IDC_ZF_GOUGE_CHECK, m_options.GougeCheck != kGougeCheckOff);
-    ShowChecks<Record>(*this, m_options, kChecks);
     return CExpRegenPropertyPage::OnSetActive();
-}
-
-void CDefsZFinishPage::LeaveEdit(int id)
-{
-    ::LeaveEdit<Record>(*this, m_options, kExchange, id);
-}
-
-void CDefsZFinishPage::TakeChoice(int id)
-{
-    ::TakeChoice<Record>(*this, m_options, kChoices, id);
 }
 
 void CDefsZFinishPage::OnChangeOptionInfo()
@@ -188,7 +162,7 @@ void CDefsZFinishPage::OnSelPlungeSelType()
 
 void CDefsZFinishPage::OnSelPlungeWarnings()
 {
-    TakeCheck<Record>(*this, m_options, kChecks, IDC_ZF_PLUNGE_WARNINGS);
+    TakeCheck(IDC_ZF_PLUNGE_WARNINGS);
 }
 
 LRESULT CDefsZFinishPage::SetDefaults(WPARAM, LPARAM)
@@ -198,14 +172,4 @@ LRESULT CDefsZFinishPage::SetDefaults(WPARAM, LPARAM)
     return 0;
 }
 
-void CDefsZFinishPage::OnOK()
-{
-    CExpRegenPropertyPage::OnOK();
-    *g_kind.Live() = m_options;
-    SetModified(FALSE);
-}
-
-void CDefsZFinishPage::OnHelp()
-{
-    ShowHelp(kPageTopic, kTopics);
-}
+template class CRecordPage<CZFinishOptionsInfo>;

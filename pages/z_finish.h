@@ -1,9 +1,8 @@
 // Z-level finishing.
 #pragma once
 
-#include "expr/expression_edits.h"
 #include "frame/export.h"
-#include "pages/option_page.h"
+#include "pages/record_page.h"
 
 /// Default parameters of Z-level finishing, section "OptionsZFinish".
 ///
@@ -37,22 +36,16 @@ PELMAR_API CZFinishOptionsInfo* GetLastZFinishOptions();
 
 /// The page of the Z finishing defaults. It edits a copy of the live record, which OK puts back; it writes no file and
 /// tells its siblings nothing.
-class PELMAR_API CDefsZFinishPage : public CExpRegenPropertyPage {
+class PELMAR_API CDefsZFinishPage : public CRecordPage<CZFinishOptionsInfo> {
     DECLARE_DYNCREATE(CDefsZFinishPage)
 public:
     enum { IDD = 3944 };
 
     CDefsZFinishPage();
 
-    /// Hands the page the host's units (1 millimetre, else inch) and fills it from the live record.
-    void GetData(int units);
-
     BOOL OnSetActive() override;
-    void OnOK() override;
 
 protected:
-    void DoDataExchange(CDataExchange* exchange) override;
-
     void OnChangeOptionInfo();
     /// Leaving the edits. The message map routes neither: a derived page may.
     void OnKillFDepthFinishStep();
@@ -62,16 +55,9 @@ protected:
     void OnSelGougeCheck();
     void OnSelPlungeSelType();
     void OnSelPlungeWarnings();
-    void OnHelp();
     LRESULT SetDefaults(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
-    void LeaveEdit(int id);
-    void TakeChoice(int id);
-
-    int m_firstActivation = 1;
-    CExpEqEdit m_edits[3]; ///< the last one is spare
     CExpEqEditInt m_leadAngleEdit;
-    CZFinishOptionsInfo m_options;
 };

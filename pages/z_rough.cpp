@@ -2,8 +2,7 @@
 
 #include "pages/choices.h"
 #include "pages/description.h"
-#include "pages/page_controls.h"
-#include "pages/record.h"
+#include "pages/record_page_tables.h"
 
 namespace {
 using Record = CZRoughOptionsInfo;
@@ -112,6 +111,8 @@ constexpr HelpTopic kTopics[] = {
     {IDC_ZR_ALIGN_PLUNGES, "pelmar-_optionspopups_align_to_deepest_plunge.htm"},
 };
 
+const PageTables<Record> kTables{g_kind, kExchange, kChoices, kChecks, kPageTopic, kTopics};
+
 // What the page tells its siblings.
 constexpr WPARAM kSideRoughStepChanged = 0x8025;
 constexpr WPARAM kSideRoughStepTypeChosen = 0x8026;
@@ -184,46 +185,14 @@ BEGIN_MESSAGE_MAP(CDefsZRoughPage, CExpRegenPropertyPage)
     ON_MESSAGE(kSetDefaultsMessage, &CDefsZRoughPage::SetDefaults)
 END_MESSAGE_MAP()
 
-CDefsZRoughPage::CDefsZRoughPage() : CExpRegenPropertyPage(IDD), m_options(*g_kind.Live()) {}
-
-void CDefsZRoughPage::GetData(int units)
-{
-    m_options = g_kind.LiveInUnitsOf(units);
-}
-
-void CDefsZRoughPage::DoDataExchange(CDataExchange* exchange)
-{
-    CExpRegenPropertyPage::DoDataExchange(exchange);
-    ExchangeControls<Record>(exchange, m_options, kExchange);
-}
+CDefsZRoughPage::CDefsZRoughPage() : CRecordPage(IDD, kTables, *g_kind.Live()) {}
 
 BOOL CDefsZRoughPage::OnSetActive()
 {
-    if (m_firstActivation) {
-        AttachExpressionEdits<Record>(*this, kExchange, m_edits);
-        m_firstActivation = 0;
-    }
-    FillChoices<Record>(*this, kChoices);
-    ShowChoices<Record>(*this, m_options, kChoices);
-    ShowChecks<Record>(*this, m_options, kChecks);
+    ShowControls();
     ShowCheck(*this, IDC_ZR_ISLAND_PLUNGES, m_options.IslandPlunges == kPlungeOnIslands);
     ShowCheck(*this, IDC_ZR_GOUGE_CHECK, m_options.GougeCheck != kGougeCheckOff);
     return CExpRegenPropertyPage::OnSetActive();
-}
-
-bool CDefsZRoughPage::LeaveEdit(int id)
-{
-    return ::LeaveEdit<Record>(*this, m_options, kExchange, id);
-}
-
-void CDefsZRoughPage::TakeChoice(int id)
-{
-    ::TakeChoice<Record>(*this, m_options, kChoices, id);
-}
-
-void CDefsZRoughPage::TakeCheck(int id)
-{
-    ::TakeCheck<Record>(*this, m_options, kChecks, id);
 }
 
 void CDefsZRoughPage::OnChangeZROptions()
@@ -338,14 +307,4 @@ LRESULT CDefsZRoughPage::SetDefaults(WPARAM, LPARAM)
     return 0;
 }
 
-void CDefsZRoughPage::OnOK()
-{
-    CExpRegenPropertyPage::OnOK();
-    *g_kind.Live() = m_options;
-    SetModified(FALSE);
-}
-
-void CDefsZRoughPage::OnHelp()
-{
-    ShowHelp(kPageTopic, kTopics);
-}
+template class CRecordPage<CZRoughOptionsInfo>;

@@ -1,9 +1,8 @@
 // Z-level roughing: pockets by depth levels.
 #pragma once
 
-#include "expr/expression_edits.h"
 #include "frame/export.h"
-#include "pages/option_page.h"
+#include "pages/record_page.h"
 
 /// Default parameters of Z-level roughing, section "OptionsZRough".
 ///
@@ -49,22 +48,16 @@ PELMAR_API CZRoughOptionsInfo* GetLastZRoughOptions();
 
 /// The page of the Z roughing defaults. It edits a copy of the live record, which OK puts back; it writes no file. It
 /// tells its siblings of steps, the side clearance and cut modes.
-class PELMAR_API CDefsZRoughPage : public CExpRegenPropertyPage {
+class PELMAR_API CDefsZRoughPage : public CRecordPage<CZRoughOptionsInfo> {
     DECLARE_DYNCREATE(CDefsZRoughPage)
 public:
     enum { IDD = 3946 };
 
     CDefsZRoughPage();
 
-    /// Hands the page the host's units (1 millimetre, else inch) and fills it from the live record.
-    void GetData(int units);
-
     BOOL OnSetActive() override;
-    void OnOK() override;
 
 protected:
-    void DoDataExchange(CDataExchange* exchange) override;
-
     void OnChangeZROptions();
     void OnKillFCornerAngle();
     void OnKillFCornerClearance();
@@ -85,16 +78,6 @@ protected:
     void OnSelIslandPlunges();
     void OnSelGougeCheck();
     void OnSelAlignPlunges();
-    void OnHelp();
     LRESULT SetDefaults(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
-
-private:
-    bool LeaveEdit(int id);
-    void TakeChoice(int id);
-    void TakeCheck(int id);
-
-    int m_firstActivation = 1;
-    CExpEqEdit m_edits[5]; ///< the last one is spare
-    CZRoughOptionsInfo m_options;
 };
