@@ -189,7 +189,7 @@ BOOL CDefsNCDefaultsDlg::OnInitDialog()
 
     m_values.filterSpans = Normalised(ReadHostWhole(kParameterSection, kFilterSpans, m_values.filterSpans));
     ReadTolerances(m_values);
-    AttachExpressionEdits<NCDefaults>(*this, kExchange, m_edits);
+    m_edits = AttachExpressionEdits<NCDefaults>(*this, kExchange);
     EnableTolerances();
     UpdateData(FALSE);
     return TRUE;

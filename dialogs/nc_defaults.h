@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 #include "dialogs/nc_dialog.h"
 #include "expr/expression_edits.h"
@@ -85,7 +86,7 @@ private:
     void StoreUntilRestart() const;
     void TakeBack();
 
-    CExpEqEdit m_edits[2];
+    std::unique_ptr<CExpEqEdit[]> m_edits;
     NCDefaults m_values;
     int m_displayModeAtOpening = 0;
     int m_menuIconsAtOpening = 0;

@@ -133,7 +133,7 @@ BOOL CDefsSetupsheet::OnInitDialog()
     m_styles.SubclassDlgItem(IDC_SHEET_STYLE, this);
     for (const Style& style : kStyles)
         m_styles.SetItemData(m_styles.AddString(LoadText(style.text)), static_cast<DWORD_PTR>(style.style));
-    AttachExpressionEdits<Record>(*this, kExchange, m_edits);
+    m_edits = AttachExpressionEdits<Record>(*this, kExchange);
     return TRUE;
 }
 

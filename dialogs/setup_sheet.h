@@ -1,6 +1,8 @@
 // The setup sheet: the report of an NC job's tools and operations.
 #pragma once
 
+#include <memory>
+
 #include "dialogs/nc_dialog.h"
 #include "expr/expression_edits.h"
 
@@ -71,7 +73,7 @@ private:
     void SelectStyle();
     void EnableOutputs();
 
-    CExpEqEdit m_edits[2];
+    std::unique_ptr<CExpEqEdit[]> m_edits;
     CComboBox m_styles;
     CSSheetOptionsInfo m_options;
 };

@@ -172,8 +172,6 @@ void CTemplateOptions::GetOperationList()
 
 void CTemplateOptions::FetchSortingStrings()
 {
-    if (!m_sortingStrings.empty())
-        return;
     const PostProcessor library;
     for (const char* text : Fetch<GetSortingOptionStringsFunction, const char*>(library, "GetSortingOptionStrings"))
         if (m_sortingStrings.size() < kSortOptions)

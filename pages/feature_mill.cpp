@@ -40,15 +40,13 @@ void CFeatureMillPage::DoDataExchange(CDataExchange* exchange)
 
 void CFeatureMillPage::AttachEdits()
 {
-    m_options->AttachEdits(*this, m_edits);
+    m_edits = m_options->AttachEdits(*this);
 }
 
 BOOL CFeatureMillPage::OnSetActive()
 {
-    if (m_firstActivation) {
+    if (!m_edits)
         AttachEdits();
-        m_firstActivation = 0;
-    }
     m_options->FillLists(*this);
     m_options->ShowLists(*this);
     return CExpRegenPropertyPage::OnSetActive();

@@ -41,8 +41,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    int m_firstActivation = 1;
-    CExpEqEdit m_edits[9]; // as many as the page with the most of them has
+    std::unique_ptr<CExpEqEdit[]> m_edits; ///< from the first activation on
     std::unique_ptr<FeatureMillOptions> m_options;
 };
 

@@ -14,7 +14,7 @@ public:
     virtual void PutBack() const = 0;
 
     virtual void Exchange(CDataExchange* exchange) = 0;
-    virtual void AttachEdits(CWnd& page, std::span<CExpEqEdit> edits) const = 0;
+    virtual std::unique_ptr<CExpEqEdit[]> AttachEdits(CWnd& page) const = 0;
     virtual void FillLists(const CWnd& page) const = 0;
     virtual void ShowLists(const CWnd& page) const = 0;
 
@@ -37,9 +37,9 @@ public:
     void PutBack() const override { *m_kind.Live() = m_record; }
 
     void Exchange(CDataExchange* exchange) override { ExchangeControls(exchange, m_record, m_exchange); }
-    void AttachEdits(CWnd& page, std::span<CExpEqEdit> edits) const override
+    std::unique_ptr<CExpEqEdit[]> AttachEdits(CWnd& page) const override
     {
-        AttachExpressionEdits(page, m_exchange, edits);
+        return AttachExpressionEdits(page, m_exchange);
     }
     void FillLists(const CWnd& page) const override { FillChoices(page, m_choices); }
     void ShowLists(const CWnd& page) const override { ShowChoices(page, m_record, m_choices); }

@@ -92,10 +92,8 @@ template <class Record> void CMultiAxisPage<Record>::DoDataExchange(CDataExchang
 
 template <class Record> BOOL CMultiAxisPage<Record>::OnSetActive()
 {
-    if (m_firstActivation) {
-        AttachExpressionEdits<Record>(*this, kMultiAxisExchange<Record>, m_edits);
-        m_firstActivation = 0;
-    }
+    if (!m_edits)
+        m_edits = AttachExpressionEdits<Record>(*this, kMultiAxisExchange<Record>);
     FillRotaryList();
     FillChoices<Record>(*this, kMultiAxisChoices<Record>);
     ShowLists();

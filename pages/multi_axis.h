@@ -1,6 +1,8 @@
 // The page that 4-axis and 5-axis milling share. Their records are alike but for one field and the axis of rotation.
 #pragma once
 
+#include <memory>
+
 #include "expr/expression_edits.h"
 #include "frame/export.h"
 #include "pages/axis_points.h"
@@ -66,7 +68,6 @@ private:
     void ShowLists();
 
     const MultiAxisOperation<Record>& m_operation;
-    int m_firstActivation = 1;
-    CExpEqEdit m_edits[4];
+    std::unique_ptr<CExpEqEdit[]> m_edits; ///< from the first activation on
     int m_hideRotaryOptions = 0;
 };

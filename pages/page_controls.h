@@ -3,8 +3,10 @@
 // All of it takes a control that the page's template does not hold for nothing, and goes on.
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <span>
 #include <variant>
@@ -34,8 +36,8 @@ enum class Binding {
 
 /// A control that takes part in the page's data exchange.
 template <class Record> struct ExchangeRow {
-    /// An expression edit of a real, checked where it has a range.
-    constexpr ExchangeRow(int control, double Record::*real, std::optional<Range> bounds = {})
+    /// An expression edit of a real.
+    constexpr ExchangeRow(int control, double Record::*real, Range bounds)
         : id(control), field(real), range(bounds), isExpressionEdit(true)
     {
     }
@@ -61,7 +63,7 @@ template <class Record> struct ExchangeRow {
 
     int id;
     std::variant<int Record::*, double Record::*> field;
-    std::optional<Range> range;
+    std::optional<Range> range;        ///< of a real
     double Record::*checked = nullptr; ///< in place of the own field
     Binding binding = Binding::Text;
     bool isExpressionEdit = false;
@@ -143,8 +145,7 @@ template <class Record> void ExchangeControl(CDataExchange* exchange, Record& re
         // The field keeps its value until the new one has passed its check.
         double value = row.RealOf(record);
         DDX_Expression(exchange, row.id, value);
-        if (row.range)
-            DDV_ExpressionRange(exchange, row.checked ? record.*row.checked : value, row.range->low, row.range->high);
+        DDV_ExpressionRange(exchange, row.checked ? record.*row.checked : value, row.range->low, row.range->high);
         row.RealOf(record) = value;
         return;
     }
@@ -173,14 +174,17 @@ void ExchangeControls(CDataExchange* exchange, Record& record, std::span<const E
             ExchangeControl(exchange, record, row);
 }
 
-/// Makes the table's expression edits such, one object each.
+/// Makes the table's expression edits such. They are so as long as the page keeps what is returned, one object each.
 template <class Record>
-void AttachExpressionEdits(CWnd& page, std::span<const ExchangeRow<Record>> rows, std::span<CExpEqEdit> edits)
+std::unique_ptr<CExpEqEdit[]> AttachExpressionEdits(CWnd& page, std::span<const ExchangeRow<Record>> rows)
 {
+    const auto count = std::ranges::count_if(rows, &ExchangeRow<Record>::isExpressionEdit);
+    auto edits = std::make_unique<CExpEqEdit[]>(static_cast<size_t>(count));
     size_t next = 0;
     for (const ExchangeRow<Record>& row : rows)
-        if (row.isExpressionEdit && next < edits.size())
+        if (row.isExpressionEdit)
             edits[next++].SubclassDlgItem(static_cast<unsigned>(row.id), &page);
+    return edits;
 }
 
 template <class Record> void FillChoices(const CWnd& page, std::span<const ChoiceRow<Record>> rows)

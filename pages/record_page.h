@@ -15,7 +15,6 @@ public:
     /// Hands the page the host's units (1 millimetre, else inch) and fills it from the live record.
     void GetData(int units);
 
-    BOOL OnSetActive() override;
     void OnOK() override;
 
 protected:
@@ -24,8 +23,8 @@ protected:
 
     void DoDataExchange(CDataExchange* exchange) override;
 
-    /// What each activation begins with: edits that take expressions, lists with their items, and ShowLists. True the
-    /// first time.
+    /// What a page's OnSetActive begins with: edits that take expressions, lists with their items, and ShowLists. True
+    /// the first time.
     bool ShowControls();
     /// Shows the fields of lists and boxes. The exchange shows the others.
     void ShowLists();

@@ -2,8 +2,6 @@
 // instantiates the shape for its record.
 #pragma once
 
-#include <algorithm>
-
 #include "pages/page_controls.h"
 #include "pages/record.h"
 #include "pages/record_page.h"
@@ -35,21 +33,11 @@ template <class Record> void CRecordPage<Record>::DoDataExchange(CDataExchange* 
     ExchangeControls(exchange, m_options, m_tables.exchange);
 }
 
-template <class Record> BOOL CRecordPage<Record>::OnSetActive()
-{
-    ShowControls();
-    return CExpRegenPropertyPage::OnSetActive();
-}
-
 template <class Record> bool CRecordPage<Record>::ShowControls()
 {
     const bool isFirst = !m_edits;
-    if (isFirst) {
-        const auto count =
-            static_cast<size_t>(std::ranges::count_if(m_tables.exchange, &ExchangeRow<Record>::isExpressionEdit));
-        m_edits = std::make_unique<CExpEqEdit[]>(count);
-        AttachExpressionEdits(*this, m_tables.exchange, std::span(m_edits.get(), count));
-    }
+    if (isFirst)
+        m_edits = AttachExpressionEdits(*this, m_tables.exchange);
     FillChoices(*this, m_tables.choices);
     ShowLists();
     return isFirst;
