@@ -1,5 +1,5 @@
 // Shows every page of the host: as it opens, where it only may be looked at, and with the prompt that refuses a bad
-// entry; and the dialogs behind the pages' buttons.
+// entry; the dialogs behind the pages' buttons; and the dialogs of the NC settings.
 #include "demo/host_process.h"
 
 #include <optional>
@@ -63,32 +63,55 @@ std::optional<int> FirstField(HWND page)
     return {};
 }
 
-/// Types what no field takes, asks for the sheet to be stored, and takes a picture of the prompt.
-void PictureOfPrompt(const Host& host, HWND sheet, HWND page, const std::string& name)
+/// A picture of a box together with the window that it has come up over.
+void PictureOfBox(HWND window, const ui::MessageBoxSeen& box, const std::string& name)
+{
+    const RECT windowArea = AreaOf(window);
+    const RECT boxArea = AreaOf(box.window);
+    RECT both;
+    UnionRect(&both, &windowArea, &boxArea);
+    TakeShot(box.window, name, &both);
+}
+
+/// Types what no field takes, asks for the window's data to be stored, and takes a picture of the prompt. The field is
+/// on a page or dialog within the window, or on the window itself.
+void PictureOfPrompt(const Host& host, HWND window, HWND page, const std::string& name)
 {
     const std::optional<int> field = FirstField(page);
     if (!field)
         return;
     const std::wstring before = ui::TextOf(page, *field);
     ui::Type(page, *field, L"1/8+");
-    PostMessage(sheet, WM_COMMAND, IDOK, 0);
+    PostMessage(window, WM_COMMAND, IDOK, 0);
     const ui::MessageBoxSeen box = ui::WaitForBox(host.Id());
-    const RECT sheetArea = AreaOf(sheet);
-    const RECT boxArea = AreaOf(box.window);
-    RECT both;
-    UnionRect(&both, &sheetArea, &boxArea);
-    TakeShot(box.window, name, &both);
+    PictureOfBox(window, box, name);
     ui::Answer(box, IDOK);
     ui::Type(page, *field, before);
 }
 
-void PictureOfDialog(const Host& host, HWND page, int button, const wchar_t* title, const std::string& name)
+void Close(HWND dialog)
 {
-    ui::Click(page, button);
-    const HWND dialog = host.WaitForWindow(title);
-    Picture(dialog, name);
     PostMessage(dialog, WM_COMMAND, IDCANCEL, 0);
     ExpectSoon("the dialog is closed", [&] { return !IsWindow(dialog); });
+}
+
+void PictureOfRotaryDialog(const Host& host, HWND page)
+{
+    ui::Click(page, IDC_MX_ROTARY_OPTIONS);
+    const HWND dialog = host.WaitForWindow(L"Параметры осей поворота");
+    Picture(dialog, "rotary-axes");
+    PictureOfPrompt(host, dialog, dialog, "rotary-axes-refused");
+    Close(dialog);
+}
+
+/// The sheet of the axes, whose two pages are alike.
+void PictureOfLatheAxes(const Host& host, HWND page)
+{
+    ui::Click(page, IDC_LATHE_RADIUS_AXES);
+    const HWND sheet = host.WaitForWindow(L"Режим токарных осей - радиус");
+    Picture(sheet, "lathe-axes");
+    PictureOfPrompt(host, sheet, PageOf(sheet), "lathe-axes-refused");
+    Close(sheet);
 }
 
 void PlayPages(const Host& host, HWND main)
@@ -99,7 +122,9 @@ void PlayPages(const Host& host, HWND main)
         Picture(sheet, kPages[index]);
         PictureOfPrompt(host, sheet, page, std::string(kPages[index]) + "-refused");
         if (std::string(kPages[index]) == "4-axis")
-            PictureOfDialog(host, page, IDC_MX_ROTARY_OPTIONS, L"Параметры осей поворота", "rotary-axes");
+            PictureOfRotaryDialog(host, page);
+        if (std::string(kPages[index]) == "lathe")
+            PictureOfLatheAxes(host, page);
     }
     CloseSheet(sheet);
     sheet = OpenSheet(host, main, ID_NC_OPTIONS_READ_ONLY);
@@ -121,19 +146,23 @@ struct DialogRow {
     UINT command;
     const wchar_t* title;
     const char* name;
+    bool hasNumbers = false;
 };
 constexpr DialogRow kDialogs[] = {
-    {ID_NC_DEFAULTS, L"Параметры ЧПУ", "nc-defaults"},
+    {ID_NC_DEFAULTS, L"Параметры ЧПУ", "nc-defaults", true},
     {ID_NC_DEFAULT_TOOLS, L"Параметры ЧПУ > Сервис", "default-tools"},
     {ID_NC_DEFAULTS_FILE, L"Файл параметров ЧПУ", "defaults-file"},
     {ID_NC_TEMPLATES, L"Шаблоны траекторий", "toolpath-templates"},
-    {ID_NC_SETUP_SHEET, L"Создание отчета", "setup-sheet"},
+    {ID_NC_SETUP_SHEET, L"Создание отчета", "setup-sheet", true},
 };
 
-void Close(HWND dialog)
+/// The dialog inside a window of the host's; the window itself where there is none.
+HWND DialogIn(HWND window)
 {
-    PostMessage(dialog, WM_COMMAND, IDCANCEL, 0);
-    ExpectSoon("the dialog is closed", [&] { return !IsWindow(dialog); });
+    for (const HWND child : ui::Children(window))
+        if (ui::ClassOf(child) == L"#32770")
+            return child;
+    return window;
 }
 
 void PlayDialogs(const Host& host, HWND main)
@@ -143,9 +172,27 @@ void PlayDialogs(const Host& host, HWND main)
         const HWND dialog = host.WaitForWindow(row.title);
         PostMessage(dialog, WM_COMMAND, IDC_PAGE_DEFAULTS,
                     reinterpret_cast<LPARAM>(GetDlgItem(dialog, IDC_PAGE_DEFAULTS)));
+        ui::Settle(dialog);
         Picture(dialog, row.name);
+        const HWND inside = DialogIn(dialog);
+        if (row.command == ID_NC_DEFAULTS)
+            ui::Click(inside, IDC_NCDEF_FILTER_SPANS);
+        if (row.hasNumbers)
+            PictureOfPrompt(host, dialog, inside, std::string(row.name) + "-refused");
         Close(dialog);
     }
+}
+
+/// The question that comes before what needs a restart is stored. The answer is No.
+void PictureOfQuestion(const Host& host, HWND main)
+{
+    PostMessage(main, WM_COMMAND, ID_NC_DEFAULTS_FILE, 0);
+    const HWND dialog = host.WaitForWindow(L"Файл параметров ЧПУ");
+    PostMessage(dialog, WM_COMMAND, IDOK, 0);
+    const ui::MessageBoxSeen box = ui::WaitForBox(host.Id());
+    PictureOfBox(dialog, box, "defaults-file-question");
+    ui::Answer(box, IDNO);
+    ExpectSoon("the dialog is closed", [&] { return !IsWindow(dialog); });
 }
 
 void Play()
@@ -153,6 +200,7 @@ void Play()
     const Host host;
     const HWND main = host.WaitForWindow(L"TORVEX");
     PlayDialogs(host, main);
+    PictureOfQuestion(host, main);
     PlayPages(host, main);
     PostMessage(main, WM_CLOSE, 0, 0);
     Expect(host.WaitForEnd() == 0, "the program ended well");
