@@ -145,6 +145,19 @@ TEST_F(RecordedTools, UnitsThatAreNeitherInchNorMillimetreCountAsInch)
     }
 }
 
+TEST_F(RecordedTools, DataThatAreMissingAreIgnored)
+{
+    Show();
+    ui::Click(Window(), kMillGauge);
+    ui::UiThread::Get().Call([this] {
+        dialog->GetData(nullptr);
+        dialog->SetData(nullptr);
+    });
+    EXPECT_TRUE(ui::IsChecked(Window(), kMillGauge));
+    EXPECT_EQ(0, GetLastDefsNCToolsInfo()->MillGaugeLength);
+    EXPECT_EQ(data.toolIds[kMillTool][0], Taken().toolIds[kMillTool][0]);
+}
+
 TEST_F(RecordedTools, SwitchingUnitsSwitchesTheLibraryAndDescribesTheOtherTools)
 {
     Show();

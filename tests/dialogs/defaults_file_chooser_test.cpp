@@ -301,6 +301,23 @@ TEST_F(DefaultsFile, TheFolderBrowserStartsAtTheFolderAndCancelChangesNothing)
     EXPECT_EQ(Wide(nc), ShownFolder());
 }
 
+TEST_F(DefaultsFile, TheFolderBrowserDoesNotComeWhereTheDialogsDataAreRefused)
+{
+    struct Refusing : CNCDefaultPath {
+        void DoDataExchange(CDataExchange* exchange) override
+        {
+            CNCDefaultPath::DoDataExchange(exchange);
+            if (exchange->m_bSaveAndValidate)
+                exchange->Fail();
+        }
+    };
+    ui::UiThread::Get().Call([this] { dialog = std::make_unique<Refusing>(); });
+    open = std::make_unique<OpenInside>(*dialog, CNCDefaultPath::IDD);
+    // A browser would keep the click from returning.
+    ui::UiThread::Get().Call([this] { SendMessage(Window(), WM_COMMAND, kBrowse, 0); });
+    EXPECT_EQ(Wide(nc), ShownFolder());
+}
+
 TEST_F(DefaultsFile, AFolderWithoutSettingsFilesKeepsTheStartUpFile)
 {
     fs::create_directories(host.folder + "\\Empty");

@@ -207,6 +207,21 @@ TEST_F(NcDefaults, ReadsEachValueAtOpeningFromItsOwnFile)
         EXPECT_TRUE(ui::IsEnabled(open.window, control)) << control;
 }
 
+TEST_F(NcDefaults, PathsThatAreTooLongAreFilesThatAreMissing)
+{
+    const std::string endless(400, 'x');
+    WriteFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=" + endless + "\r\n");
+    host.Initialize();
+    ASSERT_GT(GetSettingsLocations().hostSettingsFile.view().size(), size_t{MAX_PATH});
+    OpenModal open(dialog, kTitle);
+    EXPECT_TRUE(ui::IsChecked(open.window, kToolbar));
+    for (const int box : kBoxes)
+        EXPECT_FALSE(ui::IsChecked(open.window, box)) << box;
+    ui::Click(open.window, kMenu);
+    CheckSave(open, IDYES);
+    EXPECT_TRUE(open.IsOpen());
+}
+
 TEST_F(NcDefaults, ReadsNoStartUpFlagAtOpening)
 {
     const std::string flags = "[ALLTIPI]\r\nDefToLastMaterial;=1\r\nDefToLastMaterial=1\r\nDefToLastTool=1\r\n"

@@ -100,6 +100,7 @@ TEST_F(Evaluator, ReadsHexadecimalNumbersInBothModes)
 TEST_F(Evaluator, EndsAHexadecimalNumberAtTheFirstOtherCharacter)
 {
     EXPECT_EQ(15.0, Real("0xFG"));
+    EXPECT_EQ(15.0, Real("0xfg"));
     EXPECT_EQ(1.0, Real("0x1.5"));
     EXPECT_EQ(0.0, Real("0 x1F"));
     EXPECT_EQ(10.0, Real("10x2"));
@@ -395,6 +396,7 @@ TEST_F(Evaluator, RefusesTheQuotientThatDoesNotFit)
 {
     EXPECT_EQ(std::nullopt, Whole("(-2147483647-1)/-1"));
     EXPECT_EQ(std::nullopt, Whole("0x80000000/-1"));
+    EXPECT_EQ(-1073741824, Whole("(-2147483647-1)/2"));
     EXPECT_EQ(0, Whole("(-2147483647-1)%-1"));
     EXPECT_EQ(2147483647, Whole("-2147483647/-1"));
     EXPECT_EQ(2147483648.0, Real("0x80000000/-1"));
@@ -418,6 +420,7 @@ TEST_F(Evaluator, RefusesAResultThatIsNotFinite)
     EXPECT_EQ(std::nullopt, Real("10^400"));
     EXPECT_EQ(std::nullopt, Real("1.0e308*10"));
     EXPECT_EQ(std::nullopt, Real("-1.0e308*10"));
+    EXPECT_EQ(std::nullopt, Real("1.0e308+1.0e308"));
     EXPECT_EQ(std::nullopt, Real("0^-1"));
     ExpectBothFail("(-1)^0.5");
     ExpectBothFail("1.0e308*10-1.0e308*10");

@@ -584,6 +584,30 @@ TEST_F(LatheAxes, TheSheetHasTwoNamedTabsAndNeitherApplyNorHelp)
     }
 }
 
+TEST_F(LatheAxes, TheSheetAndItsPagesKnowTheirClasses)
+{
+    ui::UiThread::Get().Call([] {
+        const CLatheInputDisplayPS sheet(L"");
+        EXPECT_TRUE(sheet.IsKindOf(RUNTIME_CLASS(CLatheInputDisplayPS)));
+        EXPECT_TRUE(sheet.m_input.IsKindOf(RUNTIME_CLASS(CLatheInputDisplayPage)));
+        EXPECT_FALSE(sheet.m_input.IsKindOf(RUNTIME_CLASS(CLatheInputDisplayPS)));
+    });
+}
+
+TEST_F(LatheAxes, ASheetWithAThirdPageKeepsTheNamesOfTheTemplates)
+{
+    CLatheInputDisplayPS sheet(L"Оси");
+    CDefsLathePage third;
+    ui::UiThread::Get().Call([&] { sheet.AddPage(&third); });
+    ui::UiThread::Get().Start([&] { sheet.DoModal(); });
+    const HWND window = ui::WaitForWindow(L"Оси");
+    EXPECT_NE(L"Задание", TabText(window, 0));
+    EXPECT_EQ(TabText(window, 0), TabText(window, 1));
+    PostMessage(window, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_TRUE(ui::WaitForClose(window));
+    ui::UiThread::Get().WaitForStarted();
+}
+
 TEST_F(LatheAxes, ThePagesShowTheirModes)
 {
     modes.active[kRadiusDisplay] = 1;
@@ -957,6 +981,20 @@ TEST_F(LatheAxes, LabelsOutOfRangeSelectNothingAreKeptAndWritten)
     SendMessage(sheet.Page(), 3073, 0, 0);
     EXPECT_EQ("4 6 2147483647 1 ", Line("LatheInput").substr(0, 17));
     EXPECT_EQ("-2147483648 2 3 0 ", Line("LatheView").substr(0, 18));
+}
+
+TEST_F(LatheAxes, ADirectionWithoutAnEditKeepsItsValue)
+{
+    OpenSheet sheet({axesPage.get()});
+    {
+        const AxesSheet axes(sheet.Page(), kRadiusAxes);
+        ui::UiThread::Get().Call([&] { DestroyWindow(ui::Control(axes.Page(), kFirstX)); });
+        ui::Type(axes.Page(), kFirstX + 1, L"7");
+        axes.Close(IDOK);
+    }
+    HostModes expected = modes;
+    expected.directions[kRadiusInput][1][0] = 7;
+    ExpectSame(expected, Taken());
 }
 
 TEST_F(LatheAxes, DirectionsThatAreNoNumbersAreRefusedUntilTheyAreCorrected)

@@ -9,12 +9,14 @@
 
 #include "module/host_folder.h"
 #include "option_pages.h"
+#include "resources/resource.h"
 #include "ui/holdings.h"
 #include "ui/person.h"
 
 namespace {
 
 constexpr UINT kUse = WM_APP + 10;
+constexpr UINT kCloseOpened = WM_APP + 11;
 
 /// PELMAR_SOAK_ROUNDS, or a number that costs little.
 size_t Rounds()
@@ -51,7 +53,10 @@ void Use(HWND dialog)
     }
 }
 
-/// A sheet that uses its page and presses OK by itself.
+/// The buttons of pages that open a dialog or a sheet of the library's.
+constexpr int kOpeners[] = {IDC_MX_ROTARY_OPTIONS, IDC_LATHE_DIAMETER_AXES};
+
+/// A sheet that uses its page, what the page opens, and presses OK by itself.
 class CUsedSheet : public CPropertySheetTVEx {
 public:
     CUsedSheet() : CPropertySheetTVEx(L"Лист") {}
@@ -64,13 +69,35 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message != kUse)
+        if (message == kCloseOpened)
+            CloseOpened();
+        else if (message == kUse)
+            UsePage();
+        else
             return CPropertySheetTVEx::WindowProc(message, wParam, lParam);
+        return 0;
+    }
+
+private:
+    void UsePage()
+    {
         const auto page = reinterpret_cast<HWND>(SendMessage(PSM_GETCURRENTPAGEHWND));
         Use(page);
         ::SendMessage(page, kSetDefaultsMessage, 0, 0);
+        for (const int opener : kOpeners)
+            if (const HWND button = ::GetDlgItem(page, opener)) {
+                PostMessage(kCloseOpened);
+                ::SendMessage(button, BM_CLICK, 0, 0);
+            }
         PostMessage(PSM_PRESSBUTTON, PSBTN_OK);
-        return 0;
+    }
+
+    /// Runs inside the loop of what a button has opened.
+    void CloseOpened()
+    {
+        const HWND opened = ::GetLastActivePopup(m_hWnd);
+        EXPECT_NE(m_hWnd, opened);
+        ::PostMessage(opened, WM_COMMAND, IDOK, 0);
     }
 };
 

@@ -1,0 +1,98 @@
+// The help viewer as the system's registration has it. It is looked for once per process, so each of these tests runs
+// in a process of its own.
+#include <filesystem>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "module/host_folder.h"
+#include "pages/page_driver.h"
+
+namespace {
+
+constexpr wchar_t kKey[] = L"CLSID\\{ADB880A6-D8FF-11CF-9377-00AA003B7A11}\\InprocServer32";
+constexpr char kUsualViewer[] = "hhctrl.ocx";
+
+/// A host with the stand-in under the usual viewer's name, and with no viewer registered.
+class HelpViewer : public testing::Test {
+protected:
+    HelpViewer()
+    {
+        std::filesystem::copy_file(ProgramFolder() + "HelpStandIn.dll", ProgramFolder() + kUsualViewer);
+        RegDeleteKeyW(HKEY_CLASSES_ROOT, kKey);
+    }
+
+    /// A registration without a path.
+    static HKEY Register()
+    {
+        HKEY key = nullptr;
+        EXPECT_EQ(ERROR_SUCCESS, RegCreateKeyW(HKEY_CLASSES_ROOT, kKey, &key));
+        return key;
+    }
+    static void Register(DWORD type, const void* value, size_t size)
+    {
+        EXPECT_EQ(ERROR_SUCCESS, RegSetValueExW(Register(), nullptr, 0, type, static_cast<const BYTE*>(value),
+                                                static_cast<DWORD>(size)));
+    }
+    static void RegisterPath(const std::wstring& path)
+    {
+        Register(REG_EXPAND_SZ, path.c_str(), (path.size() + 1) * sizeof(wchar_t));
+    }
+
+    /// Asks for the help of a page. False where the viewer of the usual name has not shown it.
+    bool IsShownByTheUsualViewer()
+    {
+        using ShownText = const char*();
+        CDefs2xPage page;
+        OpenSheet sheet({&page});
+        TopicShownFor(sheet.Page(), 0);
+        EXPECT_TRUE(sheet.IsOpen());
+        const HMODULE viewer = GetModuleHandleA(kUsualViewer);
+        auto* const topic = reinterpret_cast<void*>(GetProcAddress(viewer, "HelpStandIn_Topic"));
+        if (!viewer || !topic)
+            return false;
+        EXPECT_STREQ("pelmar-_options_hidd_2axis_cut_opt.htm", reinterpret_cast<ShownText*>(topic)());
+        return true;
+    }
+
+    HostFolder host;
+};
+
+TEST_F(HelpViewer, IsTheUsualOneWhereNoneIsRegistered)
+{
+    EXPECT_TRUE(IsShownByTheUsualViewer());
+}
+
+TEST_F(HelpViewer, IsTheUsualOneWhereTheRegistrationHasNoPath)
+{
+    Register();
+    EXPECT_TRUE(IsShownByTheUsualViewer());
+}
+
+TEST_F(HelpViewer, IsTheUsualOneWhereTheRegistrationIsNoText)
+{
+    const DWORD number = 1;
+    Register(REG_DWORD, &number, sizeof number);
+    EXPECT_TRUE(IsShownByTheUsualViewer());
+}
+
+TEST_F(HelpViewer, IsTheUsualOneWhereTheRegisteredPathIsTooLong)
+{
+    SetEnvironmentVariableW(L"PELMAR_TEST_LONG", std::wstring(5000, L'x').c_str());
+    RegisterPath(L"%PELMAR_TEST_LONG%.dll");
+    EXPECT_TRUE(IsShownByTheUsualViewer());
+}
+
+TEST_F(HelpViewer, ThatIsRegisteredButGoneShowsNothing)
+{
+    RegisterPath(L"NoSuchViewer.dll");
+    EXPECT_FALSE(IsShownByTheUsualViewer());
+}
+
+TEST_F(HelpViewer, WithoutTheEntryPointShowsNothing)
+{
+    RegisterPath(L"CompleteToolLib.dll");
+    EXPECT_FALSE(IsShownByTheUsualViewer());
+}
+
+} // namespace
