@@ -406,6 +406,16 @@ TEST_F(DefaultsFile, ANameEndsAtASecondEqualsSign)
     EXPECT_EQ("Twice", StoredKey());
 }
 
+TEST_F(DefaultsFile, ASettingsPathThatIsTooLongIsAFileThatIsMissing)
+{
+    WriteFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=" + std::string(400, 'x') + "\r\n");
+    host.Initialize();
+    Show();
+    EXPECT_EQ(L"", ShownFolder());
+    PostHostMessage(Window(), kCheckSaveDataMessage);
+    EXPECT_FALSE(ui::IsBoxOpen());
+}
+
 TEST_F(DefaultsFile, AnOverlongFolderIsCutOffToItsBuffer)
 {
     Write("DefaultPath", "NCDefaultPath", std::string(1000, 'x'));

@@ -34,9 +34,9 @@ protected:
         EXPECT_EQ(ERROR_SUCCESS, RegSetValueExW(Register(), nullptr, 0, type, static_cast<const BYTE*>(value),
                                                 static_cast<DWORD>(size)));
     }
-    static void RegisterPath(const std::wstring& path)
+    static void RegisterPath(const std::wstring& path, DWORD type = REG_EXPAND_SZ)
     {
-        Register(REG_EXPAND_SZ, path.c_str(), (path.size() + 1) * sizeof(wchar_t));
+        Register(type, path.c_str(), (path.size() + 1) * sizeof(wchar_t));
     }
 
     /// Asks for the help of a page. False where the viewer of the usual name has not shown it.
@@ -81,6 +81,13 @@ TEST_F(HelpViewer, IsTheUsualOneWhereTheRegisteredPathIsTooLong)
     SetEnvironmentVariableW(L"PELMAR_TEST_LONG", std::wstring(5000, L'x').c_str());
     RegisterPath(L"%PELMAR_TEST_LONG%.dll");
     EXPECT_TRUE(IsShownByTheUsualViewer());
+}
+
+TEST_F(HelpViewer, MayBeRegisteredWithoutAVariable)
+{
+    RegisterPath(L"HelpStandIn.dll", REG_SZ);
+    EXPECT_FALSE(IsShownByTheUsualViewer());
+    EXPECT_EQ("pelmar-_options_hidd_2axis_cut_opt.htm", LastTopicShown());
 }
 
 TEST_F(HelpViewer, ThatIsRegisteredButGoneShowsNothing)

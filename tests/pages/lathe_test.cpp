@@ -377,13 +377,16 @@ TEST_F(PageLathe, TheTopicOfTheToolGaugeIsKeptThoughTheTemplateHasNoSuchControl)
 
 TEST_F(PageLathe, ControlsThatAreMissingAreSkipped)
 {
-    OpenSheet sheet({page.get()});
+    SiblingSpy other;
+    OpenSheet sheet({page.get(), &other});
     ui::UiThread::Get().Call([&] {
         for (const int id : {kCornerClearance, kLeadIn, kFollow, kRadiusAxes})
             DestroyWindow(ui::Control(sheet.Page(), id));
     });
     ui::Type(sheet.Page(), kCornerAngle, L"45");
     ui::Click(sheet.Page(), kDefaultsButton);
+    sheet.Switch(1);
+    sheet.Switch(0);
     ui::Choose(sheet.Page(), kLeadOut, 2);
     sheet.Ok();
     EXPECT_EQ(90.0, GetLastLatheOptions()->CornerAngle);
