@@ -6,44 +6,11 @@
 
 #include "modal.h"
 #include "resource.h"
+#include "ui/file_dialog.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Where the file's name is typed; null in a window that is no file dialog.
-HWND NameField(HWND window)
-{
-    const HWND list = GetDlgItem(window, cmb13);
-    return list ? reinterpret_cast<HWND>(SendMessage(list, CBEM_GETEDITCONTROL, 0, 0)) : nullptr;
-}
-
-/// The file dialog that is open, or null.
-HWND FindFileDialog()
-{
-    for (const HWND window : ui::TopLevelWindows())
-        if (NameField(window))
-            return window;
-    return nullptr;
-}
-
-HWND WaitForFileDialog()
-{
-    HWND found = nullptr;
-    if (!ui::WaitUntil([&] { return (found = FindFileDialog()) != nullptr; }))
-        throw std::runtime_error("no file dialog came");
-    ui::Settle(found);
-    return found;
-}
-
-void TypeName(HWND window, const wchar_t* name)
-{
-    const HWND field = NameField(window);
-    PostMessage(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(field), TRUE);
-    ui::Settle(window);
-    SendMessage(field, EM_SETSEL, 0, -1);
-    ui::TypeAt(field, name);
-}
 
 /// A folder with a few files, which is gone after the test.
 class FileDialog : public testing::Test {
@@ -60,7 +27,7 @@ protected:
     }
     ~FileDialog() override
     {
-        if (const HWND open = FindFileDialog())
+        if (const HWND open = ui::FindFileDialog())
             PostMessage(open, WM_COMMAND, IDCANCEL, 0);
         ui::UiThread::Get().WaitForStarted();
         fs::current_path(before); // the system's dialog leaves the chosen folder as the current one
@@ -71,7 +38,7 @@ protected:
         initial = folder.wstring();
         dialog.m_ofn.lpstrInitialDir = initial.c_str();
         ui::UiThread::Get().Start([this, &dialog] { result = dialog.DoModal(); });
-        return WaitForFileDialog();
+        return ui::WaitForFileDialog();
     }
     INT_PTR Click(HWND window, int button)
     {
@@ -81,8 +48,9 @@ protected:
     }
     INT_PTR Choose(HWND window, const wchar_t* name)
     {
-        TypeName(window, name);
-        return Click(window, IDOK);
+        ui::NameFile(window, name);
+        EXPECT_TRUE(ui::UiThread::Get().WaitForStarted());
+        return result;
     }
     std::wstring PathOf(const wchar_t* name) { return (folder / name).wstring(); }
 
@@ -112,7 +80,7 @@ TEST_F(FileDialog, OffersTheFilterAndTheFirstOfItAtOnce)
 {
     CFileDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY, kFilter);
     const HWND window = Open(dialog);
-    EXPECT_EQ((std::vector<std::wstring>{L"Шаблоны (*.tvhpt)", L"Все (*.*)"}), ui::Items(window, cmb1));
+    EXPECT_EQ((std::vector<std::wstring>{L"Шаблоны (*.tvhpt)", L"Все (*.*)"}), ui::FileTypes(window));
     EXPECT_EQ(0, ui::Selection(window, cmb1));
     Click(window, IDCANCEL);
 }
@@ -121,7 +89,7 @@ TEST_F(FileDialog, TakesAFilterWithoutItsLastBars)
 {
     CFileDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY, L"Шаблоны|*.tvhpt");
     const HWND window = Open(dialog);
-    EXPECT_EQ(std::vector<std::wstring>{L"Шаблоны"}, ui::Items(window, cmb1));
+    EXPECT_EQ(std::vector<std::wstring>{L"Шаблоны"}, ui::FileTypes(window));
     Click(window, IDCANCEL);
 }
 
@@ -129,7 +97,7 @@ TEST_F(FileDialog, ShowsTheFileNameThatItStartsWith)
 {
     CFileDialog dialog(TRUE, nullptr, L"second.tvhpt", OFN_FILEMUSTEXIST, kFilter);
     const HWND window = Open(dialog);
-    EXPECT_EQ(L"second.tvhpt", ui::TextOf(NameField(window)));
+    EXPECT_EQ(L"second.tvhpt", ui::TextOf(ui::FileNameEdit(window)));
     EXPECT_EQ(IDOK, Click(window, IDOK));
     EXPECT_EQ(PathOf(L"second.tvhpt"), dialog.GetPathName().GetString());
 }
@@ -152,8 +120,7 @@ TEST_F(FileDialog, StaysWhereTheFileMustExistAndDoesNot)
 {
     CFileDialog dialog(TRUE, L"tvhpt", nullptr, OFN_FILEMUSTEXIST, kFilter);
     const HWND window = Open(dialog);
-    TypeName(window, L"missing.tvhpt");
-    ui::Click(window, IDOK);
+    ui::NameFile(window, L"missing.tvhpt");
     const ui::MessageBoxSeen box = ui::WaitForBox();
     ui::Answer(box, IDOK);
     EXPECT_TRUE(IsWindow(window));

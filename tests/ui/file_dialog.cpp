@@ -11,14 +11,6 @@
 namespace ui {
 namespace {
 
-HWND FindFileDialog()
-{
-    for (const HWND window : TopLevelWindows())
-        if (FileNameEdit(window))
-            return window;
-    return nullptr;
-}
-
 void AwaitClose(HWND dialog)
 {
     if (!WaitForClose(dialog))
@@ -27,6 +19,14 @@ void AwaitClose(HWND dialog)
 }
 
 } // namespace
+
+HWND FindFileDialog()
+{
+    for (const HWND window : TopLevelWindows())
+        if (FileNameEdit(window))
+            return window;
+    return nullptr;
+}
 
 HWND WaitForFileDialog()
 {

@@ -8,6 +8,8 @@
 
 namespace ui {
 
+/// The file dialog of this process that is open, or null.
+HWND FindFileDialog();
 /// Waits for a file dialog of this process; throws when none comes.
 HWND WaitForFileDialog();
 /// The edit in which the file's name is typed; null in a window that is no file dialog.
