@@ -41,6 +41,8 @@ public:
 /// The live record, which the host reads when it makes a toolpath. Never null; the library keeps it.
 PELMAR_API CFlatSurfaceOptionsInfo* GetLastFlatSurfaceOptions();
 
+extern template class CRecordPage<CFlatSurfaceOptionsInfo>;
+
 /// The page of the flat-surface defaults. It edits a copy of the live record, which OK puts back; it writes no file. It
 /// tells its siblings of the side step and cut modes.
 ///

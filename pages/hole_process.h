@@ -46,6 +46,8 @@ public:
 /// The live record, which the host reads when it orders holes. Never null; the library keeps it.
 PELMAR_API HoleProcessDefsInfo* GetLastHoleProcessDefsInfo();
 
+extern template class CRecordPage<HoleProcessDefsInfo>;
+
 /// The page of the hole processing defaults. It edits a copy of the live record, which OK puts back; it writes no file.
 class PELMAR_API DefsHoleProcessPage : public CRecordPage<HoleProcessDefsInfo> {
     DECLARE_DYNCREATE(DefsHoleProcessPage)

@@ -39,6 +39,8 @@ constexpr int kLatheAxisModes = 4;
 using LatheAxisLabels = int[3];           ///< of one mode: index of "-", "X", "Y", "Z", "D", "R" for each axis
 using LatheAxisDirections = double[4][3]; ///< of one mode: rows X, Y, Z, a column for each axis; the last row is unused
 
+extern template class CRecordPage<CLatheOptionsInfo>;
+
 /// The page of the lathe defaults. It edits a copy of the live record, which OK puts back, and the host's four axis
 /// modes. It writes no file but on kWriteToIniMessage: the axis modes, to the host settings file.
 class PELMAR_API CDefsLathePage : public CRecordPage<CLatheOptionsInfo> {

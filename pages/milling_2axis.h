@@ -59,6 +59,8 @@ public:
 /// The live record, which the host reads when it makes a toolpath. Never null; the library keeps it.
 PELMAR_API C2AxisOptionsInfo* GetLast2xOptions();
 
+extern template class CRecordPage<C2AxisOptionsInfo>;
+
 /// The page of the 2-axis defaults. It edits a copy of the live record, which OK puts back; it writes no file.
 class PELMAR_API CDefs2xPage : public CRecordPage<C2AxisOptionsInfo> {
     DECLARE_DYNCREATE(CDefs2xPage)

@@ -43,6 +43,8 @@ public:
 /// The live record, which the host reads when it makes a toolpath. Never null; the library keeps it.
 PELMAR_API C3AxisOptionsInfo* GetLast3xOptions();
 
+extern template class CRecordPage<C3AxisOptionsInfo>;
+
 /// The page of the 3-axis defaults. It edits a copy of the live record, which OK puts back; it writes no file.
 class PELMAR_API CDefs3xPage : public CRecordPage<C3AxisOptionsInfo> {
     DECLARE_DYNCREATE(CDefs3xPage)

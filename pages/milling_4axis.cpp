@@ -13,12 +13,12 @@ constexpr auto kFields =
 
 RecordKind<Record> g_kind("Options4x", kFields);
 
+constexpr auto kTopics = MultiAxisTopics("pelmar-_optionspopups_hidc_4axisopts_rot_motion.htm");
+
 constexpr MultiAxisOperation<Record> kOperation{
     .templateId = IDD_4X,
-    .kind = g_kind,
+    .tables = MultiAxisTables<Record>(g_kind, "pelmar-_options_hidd_4axis_cut_opt.htm", kTopics),
     .rotary = &Record::RotaryMotionType,
-    .pageTopic = "pelmar-_options_hidd_4axis_cut_opt.htm",
-    .rotaryTopic = "pelmar-_optionspopups_hidc_4axisopts_rot_motion.htm",
 };
 
 const DescribedPage<Record> g_description = DescribedMultiAxisPage(kOperation);

@@ -45,6 +45,7 @@ public:
 /// The live record, which the host reads when it makes a toolpath. Never null; the library keeps it.
 PELMAR_API C4AxisOptionsInfo* GetLast4xOptions();
 
+extern template class CRecordPage<C4AxisOptionsInfo>;
 extern template class CMultiAxisPage<C4AxisOptionsInfo>;
 
 /// The page of the 4-axis defaults. The axis of rotation is part of its record.

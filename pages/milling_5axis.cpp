@@ -10,12 +10,12 @@ constexpr auto kFields = MultiAxisFields<Record>({"RotaryAxis", &Record::RotaryA
 
 RecordKind<Record> g_kind("Options5x", kFields);
 
+constexpr auto kTopics = MultiAxisTopics("pelmar-_optionspopups_hidc_5axisopts_num_rot_axis.htm");
+
 constexpr MultiAxisOperation<Record> kOperation{
     .templateId = IDD_5X,
-    .kind = g_kind,
+    .tables = MultiAxisTables<Record>(g_kind, "pelmar-_options_hidd_5axis_cut_opt.htm", kTopics),
     .rotary = &Record::RotaryAxis,
-    .pageTopic = "pelmar-_options_hidd_5axis_cut_opt.htm",
-    .rotaryTopic = "pelmar-_optionspopups_hidc_5axisopts_num_rot_axis.htm",
 };
 
 const DescribedPage<Record> g_description = DescribedMultiAxisPage(kOperation);

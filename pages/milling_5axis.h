@@ -39,6 +39,7 @@ public:
 /// The live record, which the host reads when it makes a toolpath. Never null; the library keeps it.
 PELMAR_API C5AxisOptionsInfo* GetLast5xOptions();
 
+extern template class CRecordPage<C5AxisOptionsInfo>;
 extern template class CMultiAxisPage<C5AxisOptionsInfo>;
 
 /// The page of the 5-axis defaults. The axis of rotation is the page's own: no record and no file holds it. It is all 0

@@ -1,17 +1,16 @@
 // The page that 4-axis and 5-axis milling share. Their records are alike but for one field and the axis of rotation.
 #pragma once
 
-#include <memory>
-
-#include "expr/expression_edits.h"
 #include "frame/export.h"
 #include "pages/axis_points.h"
-#include "pages/option_page.h"
+#include "pages/record_page.h"
 
 template <class Record> struct MultiAxisOperation;
 
 /// A page of multi-axis defaults. It edits a copy of the live record, which OK puts back; it writes no file.
-template <class Record> class PELMAR_API CMultiAxisPage : public CExpRegenPropertyPage {
+template <class Record> class PELMAR_API CMultiAxisPage : public CRecordPage<Record> {
+    using Base = CRecordPage<Record>;
+
 public:
     /// Hands the page the host's units (1 millimetre, else inch) and fills it from the live record. "Оси поворота" is
     /// hidden from the next activation on, for good.
@@ -23,7 +22,6 @@ public:
     void SetData(double axis[2][3]);
 
     BOOL OnSetActive() override;
-    void OnOK() override;
 
 protected:
     /// A page that is filled from the live record as it is. It keeps the reference.
@@ -35,8 +33,6 @@ protected:
     virtual void SetAxis(const AxisPoints& axis) = 0;
     /// The rotary dialog has been closed: takes its axis or leaves it. `result`: of the dialog's DoModal.
     virtual void TakeAxisOfDialog(INT_PTR result, const AxisPoints& axis) = 0;
-
-    void DoDataExchange(CDataExchange* exchange) override;
 
     void OnKillFFeedBetweenClearance();
     void OnKillFMaxFeedBetween();
@@ -55,19 +51,17 @@ protected:
     void OnSelSortType();
     void OnRotaryOptions();
     void OnRestoreDefaults();
-    void OnHelp();
     LRESULT SetDefaults(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
-    Record m_options; ///< the page's copy
+    using Base::m_options;
 
 private:
-    void LeaveEdit(int id);
-    void TakeChoice(int id);
-    void TakeCheck(int id);
+    using Base::LeaveEdit;
+    using Base::TakeCheck;
+    using Base::TakeChoice;
     void ShowLists();
 
     const MultiAxisOperation<Record>& m_operation;
-    std::unique_ptr<CExpEqEdit[]> m_edits; ///< from the first activation on
     int m_hideRotaryOptions = 0;
 };

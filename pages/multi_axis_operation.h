@@ -3,15 +3,13 @@
 
 #include <array>
 
-#include "pages/record.h"
+#include "pages/record_page_tables.h"
 
 /// An operation's own part. Page and operation live as long as the library.
 template <class Record> struct MultiAxisOperation {
     int templateId;
-    RecordKind<Record>& kind;
+    PageTables<Record> tables;
     int Record::*rotary; ///< the field of the list at the top
-    const char* pageTopic;
-    const char* rotaryTopic; ///< of that list
 };
 
 /// The fields in the order of the settings file: the common ones with the operation's own second field, then what else

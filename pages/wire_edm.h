@@ -43,6 +43,8 @@ public:
 /// The live record, which the host reads when it makes a toolpath. Never null; the library keeps it.
 PELMAR_API CEDMOptionsInfo* GetLastEDMOptions();
 
+extern template class CRecordPage<CEDMOptionsInfo>;
+
 /// The page of the wire EDM defaults. It edits a copy of the live record, which OK puts back; it writes no file.
 class PELMAR_API CDefsEDMPage : public CRecordPage<CEDMOptionsInfo> {
     DECLARE_DYNCREATE(CDefsEDMPage)

@@ -34,6 +34,8 @@ public:
 /// The live record, which the host reads when it makes a toolpath. Never null; the library keeps it.
 PELMAR_API CZFinishOptionsInfo* GetLastZFinishOptions();
 
+extern template class CRecordPage<CZFinishOptionsInfo>;
+
 /// The page of the Z finishing defaults. It edits a copy of the live record, which OK puts back; it writes no file and
 /// tells its siblings nothing.
 class PELMAR_API CDefsZFinishPage : public CRecordPage<CZFinishOptionsInfo> {

@@ -46,6 +46,8 @@ public:
 /// The live record, which the host reads when it makes a toolpath. Never null; the library keeps it.
 PELMAR_API CZRoughOptionsInfo* GetLastZRoughOptions();
 
+extern template class CRecordPage<CZRoughOptionsInfo>;
+
 /// The page of the Z roughing defaults. It edits a copy of the live record, which OK puts back; it writes no file. It
 /// tells its siblings of steps, the side clearance and cut modes.
 class PELMAR_API CDefsZRoughPage : public CRecordPage<CZRoughOptionsInfo> {
