@@ -375,8 +375,8 @@ TEST_F(Torvex, DefaultsOfTheToolsAreShownAndKept)
     HWND dialog = OpenDialog(ID_NC_DEFAULT_TOOLS, L"Параметры ЧПУ > Сервис");
     EXPECT_EQ(L"", ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT));
     ui::Click(dialog, IDC_PAGE_DEFAULTS);
-    const std::wstring tool = ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT);
-    EXPECT_NE(L"", tool);
+    std::wstring tool;
+    EXPECT_TRUE(ui::WaitUntil([&] { return !(tool = ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT)).empty(); }));
     ui::Choose(dialog, IDC_TOOLS_SORT_TYPE, 2);
     Accept(dialog);
     EXPECT_TRUE(ComesToWrite("ToolSortBy=2"));

@@ -44,7 +44,8 @@ bool IsBoxOpen(DWORD process = 0);
 
 // ---- acting (everything is posted, as input is, and waited for) ----
 
-/// Waits until the thread of `window` has handled what was posted to it.
+/// Waits until the thread of `window` has handled what was posted to it. Another process has only come to it by then:
+/// wait there for what is to be seen.
 void Settle(HWND window);
 void FocusOn(HWND dialog, int id);
 /// Puts the focus on an edit, selects its text and types over it.
