@@ -5,8 +5,8 @@
 
 #include <muParser.h>
 
+#include "PelmarDlgs/evaluator.h"
 #include "bench/stopwatch.h"
-#include "expr/evaluator.h"
 
 namespace {
 

@@ -1,12 +1,13 @@
-#include "dialogs/default_tools.h"
+#include "PelmarDlgs/dialogs/default_tools.h"
 
 #include <iterator>
 
-#include "frame/settings_values.h"
+#include "PelmarDlgs/settings_values.h"
 #include "frame/tool_library.h"
-#include "pages/option_page.h"
 #include "pages/page_controls.h"
 #include "resources/resource.h"
+
+using namespace pelmar;
 
 namespace {
 
@@ -97,13 +98,13 @@ constexpr SettingsRow kSettings[] = {
     {"LatheGaugeLength", &Settings::LatheGaugeLength},
     {"ToolSortBy", &Settings::ToolSortBy},
 };
-constexpr UINT kSortTypes[] = {IDS_SORT_BY_DIAMETER, IDS_SORT_BY_TOOL_NUMBER, IDS_SORT_BY_DATABASE_NUMBER};
+constexpr ChoiceText kSortTypes[] = {IDS_SORT_BY_DIAMETER, IDS_SORT_BY_TOOL_NUMBER, IDS_SORT_BY_DATABASE_NUMBER};
 
 constexpr char kTopic[] = "tvaux-_toolsoptions_options_nc_defaults_tools.htm";
-constexpr HelpTopic kTopics[] = {
-    {IDOK, "tvaux-_popupsj_r_hidc_ok_button.htm"},
-    {IDCANCEL, "tvaux-_popupsa_i_hidc_cancel_button.htm"},
-    {ID_HELP, "tvaux-_popupsa_i_hidc_help_button.htm"},
+constexpr Control kControls[] = {
+    Button(IDOK).Help("tvaux-_popupsj_r_hidc_ok_button.htm"),
+    Button(IDCANCEL).Help("tvaux-_popupsa_i_hidc_cancel_button.htm"),
+    Button(ID_HELP).Help("tvaux-_popupsa_i_hidc_help_button.htm"),
 };
 
 // ---- the tool library ----
@@ -208,9 +209,62 @@ void PelmarUI_nSetEnableOnlyBallTool(bool enable)
 
 static_assert(int{CDefsNCToolsDlg::IDD} == IDD_TOOLS);
 
+/// What the dialog edits.
+class pelmar::DefaultToolsState {
+public:
+    explicit DefaultToolsState(CDefsNCToolsDlg& dialog) : units(ToolUnits()), unitsAtOpening(units), m_dialog(dialog) {}
+
+    /// Describes the tools of the units at opening.
+    void UpdateToolDesc()
+    {
+        for (int kind = 0; kind < kToolKinds; ++kind)
+            Describe(kind, unitsAtOpening);
+    }
+
+    /// Switches the dialog and the tool library to these units; nothing where it has them.
+    void SetNewUnits(long newUnits)
+    {
+        if (newUnits == units)
+            return;
+        units = newUnits;
+        SetToolUnits(units);
+        for (int kind = 0; kind < kToolKinds; ++kind)
+            Describe(kind, units);
+        m_dialog.UpdateData(FALSE);
+    }
+
+    void Choose(ToolKind kind)
+    {
+        std::int32_t& id = tools.toolIds[kind][UnitsOfHost(units)];
+        ToolRecord tool;
+        if (!ChooseTool(kKinds[kind].choose, id, tool))
+            return;
+        id = tool.id;
+        descriptions[kind] = tool.Description();
+        m_dialog.UpdateData(FALSE);
+    }
+
+    CDefsNCToolsInfo settings;
+    int units;          ///< index of the tool ids: 0 inch, 1 millimetre
+    int unitsAtOpening; ///< those of the tool library
+    OptNCDefToolsData tools;
+    CString descriptions[kToolKinds];
+
+private:
+    /// Takes over what the tool library says of a kind's tool. Where it does not know the tool the old text stays.
+    void Describe(int kind, int ofUnits)
+    {
+        ToolRecord tool;
+        if (DescribeTool(kKinds[kind].describe, tools.toolIds[kind][ofUnits], tool))
+            descriptions[kind] = tool.Description();
+    }
+
+    CDefsNCToolsDlg& m_dialog;
+};
+
 IMPLEMENT_DYNCREATE(CDefsNCToolsDlg, CDialog)
 
-BEGIN_MESSAGE_MAP(CDefsNCToolsDlg, CNCDialog)
+BEGIN_MESSAGE_MAP(CDefsNCToolsDlg, pelmar::CNCDialog)
     ON_WM_NCCREATE()
     ON_COMMAND(ID_HELP, &CDefsNCToolsDlg::OnHelp)
     ON_COMMAND(IDC_TOOLS_INCH, &CDefsNCToolsDlg::OnChooseUSTool)
@@ -230,8 +284,11 @@ BEGIN_MESSAGE_MAP(CDefsNCToolsDlg, CNCDialog)
     ON_MESSAGE(kWriteToIniMessage, &CDefsNCToolsDlg::WriteToIni)
 END_MESSAGE_MAP()
 
-CDefsNCToolsDlg::CDefsNCToolsDlg(CWnd* parent) : CNCDialog(IDD, parent), m_units(ToolUnits()), m_unitsAtOpening(m_units)
+CDefsNCToolsDlg::CDefsNCToolsDlg(CWnd* parent) : CNCDialog(IDD, parent), m_state(new DefaultToolsState(*this)) {}
+
+CDefsNCToolsDlg::~CDefsNCToolsDlg()
 {
+    delete m_state;
 }
 
 BOOL CDefsNCToolsDlg::OnInitDialog()
@@ -244,23 +301,23 @@ BOOL CDefsNCToolsDlg::OnInitDialog()
 void CDefsNCToolsDlg::DoDataExchange(CDataExchange* exchange)
 {
     CNCDialog::DoDataExchange(exchange);
-    DDX_Radio(exchange, IDC_TOOLS_INCH, m_units);
+    DDX_Radio(exchange, IDC_TOOLS_INCH, m_state->units);
     for (size_t kind = 0; kind < std::size(kKinds); ++kind) {
-        RemoveSpace(m_descriptions[kind]);
-        DDX_Text(exchange, kKinds[kind].text, m_descriptions[kind]);
+        RemoveSpace(m_state->descriptions[kind]);
+        DDX_Text(exchange, kKinds[kind].text, m_state->descriptions[kind]);
     }
-    DDX_Check(exchange, IDC_TOOLS_MILL_GAUGE_LENGTH, m_settings.MillGaugeLength);
-    DDX_Check(exchange, IDC_TOOLS_LATHE_GAUGE_LENGTH, m_settings.LatheGaugeLength);
-    DDX_CBIndex(exchange, IDC_TOOLS_SORT_TYPE, m_settings.ToolSortBy);
+    DDX_Check(exchange, IDC_TOOLS_MILL_GAUGE_LENGTH, m_state->settings.MillGaugeLength);
+    DDX_Check(exchange, IDC_TOOLS_LATHE_GAUGE_LENGTH, m_state->settings.LatheGaugeLength);
+    DDX_CBIndex(exchange, IDC_TOOLS_SORT_TYPE, m_state->settings.ToolSortBy);
 }
 
 void CDefsNCToolsDlg::GetData(const OptNCDefToolsData* data)
 {
     if (!data)
         return;
-    m_tools = *data;
-    UpdateToolDesc();
-    m_settings = g_live;
+    m_state->tools = *data;
+    m_state->UpdateToolDesc();
+    m_state->settings = g_live;
     UpdateData(FALSE);
 }
 
@@ -269,66 +326,31 @@ void CDefsNCToolsDlg::SetData(OptNCDefToolsData* data)
     if (!data)
         return;
     UpdateData(TRUE);
-    *data = m_tools;
-    g_live = m_settings;
-}
-
-void CDefsNCToolsDlg::UpdateToolDesc()
-{
-    for (int kind = 0; kind < kToolKinds; ++kind)
-        Describe(kind, m_unitsAtOpening);
-}
-
-void CDefsNCToolsDlg::Describe(int kind, int units)
-{
-    ToolRecord tool;
-    if (DescribeTool(kKinds[kind].describe, m_tools.toolIds[kind][units], tool))
-        m_descriptions[kind] = tool.Description();
-}
-
-void CDefsNCToolsDlg::SetNewUnits(long units)
-{
-    if (units == m_units)
-        return;
-    m_units = units;
-    SetToolUnits(m_units);
-    for (int kind = 0; kind < kToolKinds; ++kind)
-        Describe(kind, m_units);
-    UpdateData(FALSE);
-}
-
-void CDefsNCToolsDlg::Choose(ToolKind kind)
-{
-    std::int32_t& id = m_tools.toolIds[kind][UnitsOfHost(m_units)];
-    ToolRecord tool;
-    if (!ChooseTool(kKinds[kind].choose, id, tool))
-        return;
-    id = tool.id;
-    m_descriptions[kind] = tool.Description();
-    UpdateData(FALSE);
+    *data = m_state->tools;
+    g_live = m_state->settings;
 }
 
 LRESULT CDefsNCToolsDlg::SetDefaults(WPARAM, LPARAM)
 {
     for (size_t kind = 0; kind < std::size(kKinds); ++kind)
         for (size_t units = 0; units < std::size(kUnitKeys); ++units)
-            m_tools.toolIds[kind][units] =
+            m_state->tools.toolIds[kind][units] =
                 ReadDefaultWhole(kKinds[kind].section, kUnitKeys[units], kKinds[kind].builtIn[units]);
     for (const SettingsRow& row : kSettings)
-        m_settings.*row.value = ReadDefaultWhole(kSection, row.key, 0);
-    UpdateToolDesc();
+        m_state->settings.*row.value = ReadDefaultWhole(kSection, row.key, 0);
+    m_state->UpdateToolDesc();
     return 0;
 }
 
 LRESULT CDefsNCToolsDlg::WriteToIni(WPARAM, LPARAM)
 {
-    m_settings.Save();
+    m_state->settings.Save();
     return 0;
 }
 
 void CDefsNCToolsDlg::OnCancel()
 {
-    SetToolUnits(m_unitsAtOpening);
+    SetToolUnits(m_state->unitsAtOpening);
     CNCDialog::OnCancel();
 }
 
@@ -343,72 +365,72 @@ LRESULT CDefsNCToolsDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 void CDefsNCToolsDlg::OnHelp()
 {
-    ShowHelp(kTopic, kTopics);
+    ShowHelp(*this, GetCurrentMessage()->pt, kTopic, kControls);
 }
 
 // ---- the buttons ----
 
 void CDefsNCToolsDlg::OnChooseUSTool()
 {
-    SetNewUnits(kInch);
+    m_state->SetNewUnits(kInch);
 }
 
 void CDefsNCToolsDlg::OnChooseMetricTool()
 {
-    SetNewUnits(kMillimetre);
+    m_state->SetNewUnits(kMillimetre);
 }
 
 void CDefsNCToolsDlg::OnChooseMillTool()
 {
-    Choose(kMillTool);
+    m_state->Choose(kMillTool);
 }
 
 void CDefsNCToolsDlg::OnChooseDrillTool()
 {
-    Choose(kDrillTool);
+    m_state->Choose(kDrillTool);
 }
 
 void CDefsNCToolsDlg::OnChooseLatheTool()
 {
-    Choose(kLatheTool);
+    m_state->Choose(kLatheTool);
 }
 
 void CDefsNCToolsDlg::OnChooseLDrillTool()
 {
-    Choose(kLatheDrillTool);
+    m_state->Choose(kLatheDrillTool);
 }
 
 void CDefsNCToolsDlg::OnChooseDgtzTool()
 {
-    Choose(kProbeTool);
+    m_state->Choose(kProbeTool);
 }
 
 void CDefsNCToolsDlg::OnChooseEDMTool()
 {
-    Choose(kEdmTool);
+    m_state->Choose(kEdmTool);
 }
 
 void CDefsNCToolsDlg::OnChooseThreadTool()
 {
-    Choose(kThreadTool);
+    m_state->Choose(kThreadTool);
 }
 
 void CDefsNCToolsDlg::OnChooseFaceMillTool()
 {
-    Choose(kFaceMillTool);
+    m_state->Choose(kFaceMillTool);
 }
 
 void CDefsNCToolsDlg::OnChooseCornerRoundTool()
 {
-    Choose(kRoundMillTool);
+    m_state->Choose(kRoundMillTool);
 }
 
 void CDefsNCToolsDlg::OnChooseChamferMillTool()
 {
-    Choose(kChamferMillTool);
+    m_state->Choose(kChamferMillTool);
 }
 
 void CDefsNCToolsDlg::OnChooseThreadMillTool()
 {
-    Choose(kThreadMillTool);
+    m_state->Choose(kThreadMillTool);
 }

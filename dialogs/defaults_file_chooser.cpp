@@ -1,16 +1,22 @@
-#include "dialogs/defaults_file_chooser.h"
+#include "PelmarDlgs/dialogs/defaults_file_chooser.h"
 
+#include <map>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "PelmarDlgs/settings_locations.h"
 #include "dialogs/folder_browser.h"
+#include "dialogs/restart_question.h"
 #include "frame/fixed_text.h"
 #include "frame/module.h"
-#include "frame/settings_locations.h"
-#include "pages/option_page.h"
+#include "frame/profile.h"
+#include "pages/page_controls.h"
 #include "resources/resource.h"
+
+using namespace pelmar;
 
 namespace {
 constexpr char kFolderSection[] = "DefaultPath";
@@ -25,9 +31,12 @@ constexpr size_t kLongestPart = 511;
 
 constexpr char kGeneralTopic[] = "tvaux-_toolsoptions_tools_options_nc_defaults_paths.htm";
 constexpr char kFolderTopic[] = "tvaux-_toolsoptionspopups_nc_defaults.htm";
-constexpr HelpTopic kTopics[] = {{IDC_CHOOSER_FOLDER, kFolderTopic}, {IDC_CHOOSER_BROWSE, kFolderTopic}};
+constexpr Control kControls[] = {
+    PageEdit(IDC_CHOOSER_FOLDER).Help(kFolderTopic),
+    Button(IDC_CHOOSER_BROWSE).Help(kFolderTopic),
+};
 
-using SettingsText = FixedText<kSettingsTextCapacity>;
+using NameText = FixedText<SettingsText::kCapacity>;
 
 /// The two parts of a line "key=file name". The second ends at another "=". Nothing where one of them is empty, or the
 /// first too long.
@@ -46,9 +55,68 @@ std::optional<std::pair<std::string, std::string>> Split(std::string_view line)
 
 static_assert(int{CNCDefaultPath::IDD} == IDD_CHOOSER);
 
+/// What the dialog edits.
+class pelmar::ChooserState {
+public:
+    void ReadFileNames(const char* from)
+    {
+        std::vector<char> lines(kSectionCapacity);
+        profile::ReadSection(kFilesSection, lines, from);
+        for (const char* line = lines.data(); *line; line += std::strlen(line) + 1)
+            if (auto entry = Split(line))
+                fileNames[std::move(entry->first)] = std::move(entry->second);
+    }
+
+    /// The folder is shown outside the exchange, in which the edit's notification would be lost: a folder that the
+    /// dialog itself puts into the edit counts as a change like any other.
+    void Show(CNCDefaultPath& dialog) const
+    {
+        dialog.UpdateData(FALSE);
+        const CString text(folder.c_str());
+        CString shown;
+        dialog.GetDlgItem(IDC_CHOOSER_FOLDER)->GetWindowText(shown);
+        if (shown != text)
+            dialog.SetDlgItemText(IDC_CHOOSER_FOLDER, text);
+    }
+
+    void Store()
+    {
+        const char* const host = GetSettingsLocations().hostSettingsFile.c_str();
+        startupKey = KeyOfFile();
+        profile::WriteText(kFolderSection, kFolderKey, folder.c_str(), host);
+        profile::WriteText(kStartupSection, kStartupKey, startupKey.c_str(), host);
+        profile::WriteText(kFilesSection, startupKey.c_str(), file.c_str(), host);
+    }
+
+    CComboBox files;
+    std::string folder;
+    bool isChanged = false;
+    std::string file; ///< the start-up file
+    std::string startupKey;
+    std::string folderAtOpening;
+    std::string fileAtOpening;
+
+private:
+    /// The key that names the start-up file, the last one where several do. A file that no key names gets one from its
+    /// name.
+    std::string KeyOfFile() const
+    {
+        std::string key;
+        for (const auto& [known, name] : fileNames)
+            if (name == file)
+                key = known;
+        if (!key.empty())
+            return key;
+        const size_t dot = file.find('.');
+        return dot == 0 ? file : file.substr(0, dot);
+    }
+
+    std::map<std::string, std::string> fileNames; ///< by their keys in the host's settings
+};
+
 IMPLEMENT_DYNCREATE(CNCDefaultPath, CDialog)
 
-BEGIN_MESSAGE_MAP(CNCDefaultPath, CNCDialog)
+BEGIN_MESSAGE_MAP(CNCDefaultPath, pelmar::CNCDialog)
     ON_BN_CLICKED(IDC_CHOOSER_BROWSE, &CNCDefaultPath::OnDirBtn)
     ON_EN_CHANGE(IDC_CHOOSER_FOLDER, &CNCDefaultPath::OnChangeDirEdit)
     ON_MESSAGE(kCheckSaveDataMessage, &CNCDefaultPath::CheckSaveData)
@@ -57,148 +125,109 @@ BEGIN_MESSAGE_MAP(CNCDefaultPath, CNCDialog)
     ON_COMMAND(ID_HELP, &CNCDefaultPath::OnHelp)
 END_MESSAGE_MAP()
 
-CNCDefaultPath::CNCDefaultPath(CWnd* parent) : CNCDialog(IDD, parent) {}
+CNCDefaultPath::CNCDefaultPath(CWnd* parent) : CNCDialog(IDD, parent), m_state(new ChooserState) {}
+
+CNCDefaultPath::~CNCDefaultPath()
+{
+    delete m_state;
+}
 
 BOOL CNCDefaultPath::OnInitDialog()
 {
     CNCDialog::OnInitDialog();
     ReadFromIni(GetSettingsLocations().hostSettingsFile.c_str());
-    m_folderAtOpening = m_folder;
-    m_fileAtOpening = m_file;
+    m_state->folderAtOpening = m_state->folder;
+    m_state->fileAtOpening = m_state->file;
     return TRUE;
 }
 
 void CNCDefaultPath::DoDataExchange(CDataExchange* exchange)
 {
     CNCDialog::DoDataExchange(exchange);
-    DDX_Control(exchange, IDC_CHOOSER_FILES, m_files);
+    DDX_Control(exchange, IDC_CHOOSER_FILES, m_state->files);
     if (!exchange->m_bSaveAndValidate)
         return;
     CString folder;
     DDX_Text(exchange, IDC_CHOOSER_FOLDER, folder);
-    m_folder = CStringA(folder).GetString();
-}
-
-/// The folder is shown outside the exchange, in which the edit's notification would be lost: a folder that the dialog
-/// itself puts into the edit counts as a change like any other.
-void CNCDefaultPath::ShowValues()
-{
-    UpdateData(FALSE);
-    const CString folder(m_folder.c_str());
-    CString shown;
-    GetDlgItem(IDC_CHOOSER_FOLDER)->GetWindowText(shown);
-    if (shown != folder)
-        SetDlgItemText(IDC_CHOOSER_FOLDER, folder);
+    m_state->folder = CStringA(folder).GetString();
 }
 
 void CNCDefaultPath::ReadFromIni(const char* file)
 {
-    m_folder = FixedText<kFolderCapacity>::FromProfile(kFolderSection, kFolderKey, "", file).c_str();
-    m_startupKey = SettingsText::FromProfile(kStartupSection, kStartupKey, "NCCurrentFileName", file).c_str();
-    m_file = SettingsText::FromProfile(kFilesSection, m_startupKey.c_str(), "CURRENT.INI", file).c_str();
-    ReadFileNames(file);
+    m_state->folder = FixedText<kFolderCapacity>::FromProfile(kFolderSection, kFolderKey, "", file).c_str();
+    m_state->startupKey = NameText::FromProfile(kStartupSection, kStartupKey, "NCCurrentFileName", file).c_str();
+    m_state->file = NameText::FromProfile(kFilesSection, m_state->startupKey.c_str(), "CURRENT.INI", file).c_str();
+    m_state->ReadFileNames(file);
     UpdateNCIniFileCB();
-}
-
-void CNCDefaultPath::ReadFileNames(const char* file)
-{
-    std::vector<char> lines(kSectionCapacity);
-    profile::ReadSection(kFilesSection, lines, file);
-    for (const char* line = lines.data(); *line; line += std::strlen(line) + 1)
-        if (auto entry = Split(line))
-            m_fileNames[std::move(entry->first)] = std::move(entry->second);
 }
 
 void CNCDefaultPath::UpdateNCIniFileCB()
 {
-    m_files.ResetContent();
-    m_files.Dir(DDL_READWRITE | DDL_READONLY, CString((m_folder + "\\*.ini").c_str()));
-    const int found = m_files.FindStringExact(-1, CString(m_file.c_str()));
-    m_files.SetCurSel(found >= 0 ? found : 0);
-    ShowValues();
+    m_state->files.ResetContent();
+    m_state->files.Dir(DDL_READWRITE | DDL_READONLY, CString((m_state->folder + "\\*.ini").c_str()));
+    const int found = m_state->files.FindStringExact(-1, CString(m_state->file.c_str()));
+    m_state->files.SetCurSel(found >= 0 ? found : 0);
+    m_state->Show(*this);
 }
 
 void CNCDefaultPath::OnSelchangeComboInifile()
 {
     CString name;
-    m_files.GetLBText(m_files.GetCurSel(), name);
-    m_file = CStringA(name).GetString();
-    m_isChanged = true;
+    m_state->files.GetLBText(m_state->files.GetCurSel(), name);
+    m_state->file = CStringA(name).GetString();
+    m_state->isChanged = true;
 }
 
 void CNCDefaultPath::OnDirBtn()
 {
     if (!UpdateData(TRUE))
         return;
-    const std::optional<std::string> folder = BrowseForFolder(m_hWnd, IDS_CHOOSE_NC_FOLDER, m_folder.c_str());
+    const std::optional<std::string> folder = BrowseForFolder(m_hWnd, IDS_CHOOSE_NC_FOLDER, m_state->folder.c_str());
     if (!folder)
         return;
-    m_folder = *folder;
+    m_state->folder = *folder;
     UpdateNCIniFileCB();
-    m_isChanged = true;
+    m_state->isChanged = true;
 }
 
 void CNCDefaultPath::OnChangeDirEdit()
 {
-    if (m_folder.empty()) {
+    if (m_state->folder.empty()) {
         AfxMessageBox(LoadText(IDS_NAME_EXISTING_FOLDER));
-        m_folder = m_folderAtOpening;
+        m_state->folder = m_state->folderAtOpening;
     }
     UpdateNCIniFileCB();
-    m_isChanged = true;
+    m_state->isChanged = true;
 }
 
 LRESULT CNCDefaultPath::SetDefaults(WPARAM, LPARAM)
 {
     ReadFromIni(GetSettingsLocations().hostDefaultsFile.c_str());
-    m_isChanged = true;
+    m_state->isChanged = true;
     return 0;
 }
 
 LRESULT CNCDefaultPath::CheckSaveData(WPARAM, LPARAM)
 {
-    if (!m_isChanged)
+    if (!m_state->isChanged)
         return 0;
-    if (m_folder.empty())
-        m_folder = m_folderAtOpening;
-    if (m_file.empty())
-        m_file = m_fileAtOpening;
-    ShowValues();
+    if (m_state->folder.empty())
+        m_state->folder = m_state->folderAtOpening;
+    if (m_state->file.empty())
+        m_state->file = m_state->fileAtOpening;
+    m_state->Show(*this);
     if (AskToStoreUntilRestart()) {
-        Store();
+        m_state->Store();
     } else {
-        m_folder = m_folderAtOpening;
-        m_file = m_fileAtOpening;
+        m_state->folder = m_state->folderAtOpening;
+        m_state->file = m_state->fileAtOpening;
         UpdateNCIniFileCB();
     }
-    m_isChanged = false;
+    m_state->isChanged = false;
     return 0;
-}
-
-void CNCDefaultPath::Store()
-{
-    const char* const file = GetSettingsLocations().hostSettingsFile.c_str();
-    m_startupKey = KeyOfFile();
-    profile::WriteText(kFolderSection, kFolderKey, m_folder.c_str(), file);
-    profile::WriteText(kStartupSection, kStartupKey, m_startupKey.c_str(), file);
-    profile::WriteText(kFilesSection, m_startupKey.c_str(), m_file.c_str(), file);
-}
-
-/// The key that names the start-up file, the last one where several do. A file that no key names gets one from its
-/// name.
-std::string CNCDefaultPath::KeyOfFile() const
-{
-    std::string key;
-    for (const auto& [known, name] : m_fileNames)
-        if (name == m_file)
-            key = known;
-    if (!key.empty())
-        return key;
-    const size_t dot = m_file.find('.');
-    return dot == 0 ? m_file : m_file.substr(0, dot);
 }
 
 void CNCDefaultPath::OnHelp()
 {
-    ShowHelp(kGeneralTopic, kTopics);
+    ShowHelp(*this, GetCurrentMessage()->pt, kGeneralTopic, kControls);
 }

@@ -4,6 +4,8 @@
 
 #include "frame/module.h"
 
+namespace pelmar {
+
 namespace {
 int CALLBACK SelectInitial(HWND browser, UINT message, LPARAM, LPARAM initial)
 {
@@ -42,3 +44,5 @@ std::optional<std::string> BrowseForFolder(HWND owner, UINT title, const char* i
         return {};
     return path;
 }
+
+} // namespace pelmar

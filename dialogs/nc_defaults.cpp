@@ -1,15 +1,57 @@
-#include "dialogs/nc_defaults.h"
+#include "PelmarDlgs/dialogs/nc_defaults.h"
 
 #include <limits>
 #include <string>
 
+#include "PelmarDlgs/settings_locations.h"
+#include "PelmarDlgs/settings_values.h"
+#include "dialogs/restart_question.h"
 #include "frame/profile.h"
-#include "frame/settings_locations.h"
-#include "frame/settings_values.h"
 #include "frame/tool_library.h"
-#include "pages/option_page.h"
 #include "pages/page_controls.h"
 #include "resources/resource.h"
+
+namespace pelmar {
+
+/// What the user edits in the dialog. Whole numbers but the material are 0 or 1.
+struct NCDefaults {
+    int displayMode = 0; ///< of the NC commands: 0 toolbar, 1 drop-down menu; from the host's defaults, any number
+    int menuIcons = 0;
+    int defToLastMaterial = 0;
+    int defToLastTool = 0;
+    int defToLastCutControl = 0;
+    int calculateMinimumZ = 0;
+    int alphanumericProgramName = 0;
+    int classic3Axis = 0;
+    int filterSpans = 0;
+    double filterMaxSpan = 0.001;
+    double filterArcTolerance = 0.001;
+    int material = 0;
+};
+
+template <> struct RecordFacts<NCDefaults> {
+    using R = NCDefaults;
+
+    static constexpr Range tolerances{0.0, std::numeric_limits<double>::max()};
+
+    // The dialog keeps them in files of its own; the display mode and the material are not among its boxes and edits.
+    static constexpr Option options[] = {
+        Switch<&R::menuIcons>(kInMemoryOnly, "Иконки в меню"),
+        Switch<&R::defToLastMaterial>(kInMemoryOnly, "Использовать последний материал по умолчанию"),
+        Switch<&R::defToLastTool>(kInMemoryOnly, "Использовать последний инструмент по умолчанию"),
+        Switch<&R::defToLastCutControl>(kInMemoryOnly, "Сохранять параметры операции при выходе"),
+        Switch<&R::calculateMinimumZ>(kInMemoryOnly, "Вычислять нижний предел по оси Z"),
+        Switch<&R::alphanumericProgramName>(kInMemoryOnly, "Алфавитно-цифровой номер программы"),
+        Switch<&R::classic3Axis>(kInMemoryOnly, "Использовать классическое 3-осевое фрезерование"),
+        Switch<&R::filterSpans>(kInMemoryOnly, "Разбивать прямые и дуги на отрезки"),
+        UnscaledLength<&R::filterMaxSpan>(kInMemoryOnly, "Максимальное значение отрезка для прямой").Within(tolerances),
+        UnscaledLength<&R::filterArcTolerance>(kInMemoryOnly, "Допуск для сегмента дуги").Within(tolerances),
+    };
+};
+
+} // namespace pelmar
+
+using namespace pelmar;
 
 namespace {
 
@@ -87,47 +129,101 @@ constexpr int kEveryGroup = 0;
 
 // ---- the controls ----
 
-constexpr Range kTolerances{0.0, std::numeric_limits<double>::max()};
-
-// The display mode comes before these. The span filter comes before its tolerances: a click on it counts even while a
-// tolerance is refused, so that the edits can be enabled and corrected.
-constexpr ExchangeRow<NCDefaults> kExchange[] = {
-    {IDC_NCDEF_MENU_ICONS, &NCDefaults::menuIcons, Binding::Check},
-    {IDC_NCDEF_LAST_MATERIAL, &NCDefaults::defToLastMaterial, Binding::Check},
-    {IDC_NCDEF_LAST_TOOL, &NCDefaults::defToLastTool, Binding::Check},
-    {IDC_NCDEF_LAST_CUT_CONTROL, &NCDefaults::defToLastCutControl, Binding::Check},
-    {IDC_NCDEF_MINIMUM_Z, &NCDefaults::calculateMinimumZ, Binding::Check},
-    {IDC_NCDEF_PROGRAM_NAME, &NCDefaults::alphanumericProgramName, Binding::Check},
-    {IDC_NCDEF_CLASSIC_3_AXIS, &NCDefaults::classic3Axis, Binding::Check},
-    {IDC_NCDEF_FILTER_SPANS, &NCDefaults::filterSpans, Binding::Check},
-    {IDC_NCDEF_MAX_SPAN, &NCDefaults::filterMaxSpan, kTolerances},
-    {IDC_NCDEF_ARC_TOLERANCE, &NCDefaults::filterArcTolerance, kTolerances},
-};
-
 constexpr char kTopic[] = "tvaux-_toolsoptions_nc_defaults_tools_options.htm";
 constexpr char kDisplayModeTopic[] = "tvaux-_toolsoptionspopups_display_toolbar_dispaly_menu_options.htm";
 
-constexpr HelpTopic kTopics[] = {
-    {IDOK, "tvaux-_popupsj_r_hidc_ok_button.htm"},
-    {IDCANCEL, "tvaux-_popupsa_i_hidc_cancel_button.htm"},
-    {ID_HELP, "tvaux-_popupsa_i_hidc_help_button.htm"},
-    {IDC_NCDEF_TOOLBAR, kDisplayModeTopic},
-    {IDC_NCDEF_MENU, kDisplayModeTopic},
-    {IDC_NCDEF_MENU_ICONS, "tvaux-_toolsoptionspopups_menu_icons.htm"},
-    {IDC_NCDEF_PROGRAM_NAME, "tvaux-_toolsoptionspopups_program_number_is_alphanumeric_name.htm"},
-    {IDC_NCDEF_MINIMUM_Z, "tvaux-_toolsoptionspopups_calculate_initial_value_for_minimum_z.htm"},
-    {IDC_NCDEF_LAST_MATERIAL, "tvaux-_toolsoptionspopups_use_last_selected_materials_as_default_at_start_up.htm"},
-    {IDC_NCDEF_LAST_TOOL, "tvaux-_toolsoptionspopups_use_last_selected_tools_as_default_at_start_up.htm"},
-    {IDC_NCDEF_LAST_CUT_CONTROL, "tvaux-_toolsoptionspopups_save_cut_control_information_at_torvex_exit.htm"},
-    {IDC_NCDEF_MATERIAL, "tvaux-_toolsoptionspopups_choose_material_button_options_nc_defaults_dialog.htm"},
+// The display mode comes before these. The span filter comes before its tolerances: a click on it counts even while a
+// tolerance is refused, so that the edits can be enabled and corrected.
+constexpr Control kControls[] = {
+    Check<&NCDefaults::menuIcons>(IDC_NCDEF_MENU_ICONS)
+        .ByExchangeOnly()
+        .Help("tvaux-_toolsoptionspopups_menu_icons.htm"),
+    Check<&NCDefaults::defToLastMaterial>(IDC_NCDEF_LAST_MATERIAL)
+        .ByExchangeOnly()
+        .Help("tvaux-_toolsoptionspopups_use_last_selected_materials_as_default_at_start_up.htm"),
+    Check<&NCDefaults::defToLastTool>(IDC_NCDEF_LAST_TOOL)
+        .ByExchangeOnly()
+        .Help("tvaux-_toolsoptionspopups_use_last_selected_tools_as_default_at_start_up.htm"),
+    Check<&NCDefaults::defToLastCutControl>(IDC_NCDEF_LAST_CUT_CONTROL)
+        .ByExchangeOnly()
+        .Help("tvaux-_toolsoptionspopups_save_cut_control_information_at_torvex_exit.htm"),
+    Check<&NCDefaults::calculateMinimumZ>(IDC_NCDEF_MINIMUM_Z)
+        .ByExchangeOnly()
+        .Help("tvaux-_toolsoptionspopups_calculate_initial_value_for_minimum_z.htm"),
+    Check<&NCDefaults::alphanumericProgramName>(IDC_NCDEF_PROGRAM_NAME)
+        .ByExchangeOnly()
+        .Help("tvaux-_toolsoptionspopups_program_number_is_alphanumeric_name.htm"),
+    Check<&NCDefaults::classic3Axis>(IDC_NCDEF_CLASSIC_3_AXIS).ByExchangeOnly(),
+    Check<&NCDefaults::filterSpans>(IDC_NCDEF_FILTER_SPANS).ByExchangeOnly(),
+    Edit<&NCDefaults::filterMaxSpan>(IDC_NCDEF_MAX_SPAN),
+    Edit<&NCDefaults::filterArcTolerance>(IDC_NCDEF_ARC_TOLERANCE),
+    Button(IDC_NCDEF_TOOLBAR).Help(kDisplayModeTopic),
+    Button(IDC_NCDEF_MENU).Help(kDisplayModeTopic),
+    Button(IDC_NCDEF_MATERIAL).Help("tvaux-_toolsoptionspopups_choose_material_button_options_nc_defaults_dialog.htm"),
+    Button(IDOK).Help("tvaux-_popupsj_r_hidc_ok_button.htm"),
+    Button(IDCANCEL).Help("tvaux-_popupsa_i_hidc_cancel_button.htm"),
+    Button(ID_HELP).Help("tvaux-_popupsa_i_hidc_help_button.htm"),
 };
 } // namespace
 
 static_assert(int{CDefsNCDefaultsDlg::IDD} == IDD_NC_DEFAULTS);
 
-IMPLEMENT_DYNCREATE(CDefsNCDefaultsDlg, CNCDialog)
+/// What the dialog edits.
+class pelmar::NCDefaultsState {
+public:
+    explicit NCDefaultsState(CDefsNCDefaultsDlg& dialog) : m_dialog(dialog) {}
 
-BEGIN_MESSAGE_MAP(CDefsNCDefaultsDlg, CNCDialog)
+    void ChangeDisplayMode(int mode)
+    {
+        if (values.displayMode == mode)
+            return;
+        values.displayMode = mode;
+        EnableControl(m_dialog, IDC_NCDEF_MENU_ICONS, mode == 1);
+        needsRestart = true;
+    }
+
+    void EnableTolerances() const
+    {
+        EnableControl(m_dialog, IDC_NCDEF_MAX_SPAN, values.filterSpans != 0);
+        EnableControl(m_dialog, IDC_NCDEF_ARC_TOLERANCE, values.filterSpans != 0);
+    }
+
+    void StoreUntilRestart() const
+    {
+        WriteHostWhole(kDisplaySection, kDisplayMode, values.displayMode);
+        WriteHostWhole(kDisplaySection, kMenuIcons, values.menuIcons);
+        WriteHostWhole(kParameterSection, kClassic3Axis, values.classic3Axis);
+        WriteSpanFilter(values, kMaxSpanUntilRestart);
+    }
+
+    /// What needs a restart is again as it was at opening; the span filter is as it is built in.
+    void TakeBack()
+    {
+        constexpr NCDefaults kBuiltIn;
+        values.displayMode = displayModeAtOpening;
+        values.menuIcons = menuIconsAtOpening;
+        values.classic3Axis = classic3AxisAtOpening;
+        values.filterSpans = kBuiltIn.filterSpans;
+        values.filterMaxSpan = kBuiltIn.filterMaxSpan;
+        values.filterArcTolerance = kBuiltIn.filterArcTolerance;
+        EnableTolerances();
+        m_dialog.UpdateData(FALSE);
+    }
+
+    ExpressionEdits edits;
+    NCDefaults values;
+    int displayModeAtOpening = 0;
+    int menuIconsAtOpening = 0;
+    int classic3AxisAtOpening = 0;
+    bool needsRestart = false;
+
+private:
+    CDefsNCDefaultsDlg& m_dialog;
+};
+
+IMPLEMENT_DYNCREATE(CDefsNCDefaultsDlg, CDialog)
+
+BEGIN_MESSAGE_MAP(CDefsNCDefaultsDlg, pelmar::CNCDialog)
     ON_WM_NCCREATE()
     ON_COMMAND(ID_HELP, &CDefsNCDefaultsDlg::OnHelp)
     ON_MESSAGE(kSetDefaultsMessage, &CDefsNCDefaultsDlg::SetDefaults)
@@ -139,58 +235,65 @@ BEGIN_MESSAGE_MAP(CDefsNCDefaultsDlg, CNCDialog)
     ON_BN_CLICKED(IDC_NCDEF_FILTER_SPANS, &CDefsNCDefaultsDlg::OnBnClickedCheckFilterSpans)
 END_MESSAGE_MAP()
 
-CDefsNCDefaultsDlg::CDefsNCDefaultsDlg(CWnd* parent) : CNCDialog(IDD, parent) {}
+CDefsNCDefaultsDlg::CDefsNCDefaultsDlg(CWnd* parent) : CNCDialog(IDD, parent), m_state(new NCDefaultsState(*this)) {}
+
+CDefsNCDefaultsDlg::~CDefsNCDefaultsDlg()
+{
+    delete m_state;
+}
 
 void CDefsNCDefaultsDlg::GetData(const OptNCDefData* data)
 {
     if (!data)
         return;
-    m_values.material = data->material;
-    m_values.defToLastMaterial = data->defToLastMaterial;
-    m_values.defToLastTool = data->defToLastTool;
-    m_values.defToLastCutControl = data->defToLastCutControl;
-    m_values.calculateMinimumZ = data->calculateMinimumZ;
-    m_values.alphanumericProgramName = data->alphanumericProgramName;
-    m_values.filterSpans = Normalised(data->filterSpans);
-    m_values.filterMaxSpan = data->filterMaxSpan;
-    m_values.filterArcTolerance = data->filterArcTolerance;
-    EnableTolerances();
+    m_state->values.material = data->material;
+    m_state->values.defToLastMaterial = data->defToLastMaterial;
+    m_state->values.defToLastTool = data->defToLastTool;
+    m_state->values.defToLastCutControl = data->defToLastCutControl;
+    m_state->values.calculateMinimumZ = data->calculateMinimumZ;
+    m_state->values.alphanumericProgramName = data->alphanumericProgramName;
+    m_state->values.filterSpans = Normalised(data->filterSpans);
+    m_state->values.filterMaxSpan = data->filterMaxSpan;
+    m_state->values.filterArcTolerance = data->filterArcTolerance;
+    m_state->EnableTolerances();
 }
 
 void CDefsNCDefaultsDlg::SetData(OptNCDefData* data)
 {
     if (!data)
         return;
-    data->material = m_values.material;
-    data->defToLastMaterial = m_values.defToLastMaterial;
-    data->defToLastTool = m_values.defToLastTool;
-    data->defToLastCutControl = m_values.defToLastCutControl;
-    data->calculateMinimumZ = m_values.calculateMinimumZ;
-    data->alphanumericProgramName = m_values.alphanumericProgramName;
-    data->filterSpans = static_cast<std::uint8_t>(IsOne(m_values.filterSpans));
-    data->filterMaxSpan = m_values.filterMaxSpan;
-    data->filterArcTolerance = m_values.filterArcTolerance;
+    data->material = m_state->values.material;
+    data->defToLastMaterial = m_state->values.defToLastMaterial;
+    data->defToLastTool = m_state->values.defToLastTool;
+    data->defToLastCutControl = m_state->values.defToLastCutControl;
+    data->calculateMinimumZ = m_state->values.calculateMinimumZ;
+    data->alphanumericProgramName = m_state->values.alphanumericProgramName;
+    data->filterSpans = static_cast<std::uint8_t>(IsOne(m_state->values.filterSpans));
+    data->filterMaxSpan = m_state->values.filterMaxSpan;
+    data->filterArcTolerance = m_state->values.filterArcTolerance;
 
-    WriteHostWhole(kParameterSection, kClassic3Axis, m_values.classic3Axis);
-    WriteSpanFilter(m_values, kMaxSpan);
+    WriteHostWhole(kParameterSection, kClassic3Axis, m_state->values.classic3Axis);
+    WriteSpanFilter(m_state->values, kMaxSpan);
 }
 
 BOOL CDefsNCDefaultsDlg::OnInitDialog()
 {
     CNCDialog::OnInitDialog();
-    m_values.displayMode = Normalised(ReadHostWhole(kDisplaySection, kDisplayMode, m_values.displayMode));
-    m_values.menuIcons = Normalised(ReadHostWhole(kDisplaySection, kMenuIcons, m_values.menuIcons));
-    EnableControl(*this, IDC_NCDEF_MENU_ICONS, m_values.displayMode == 1);
-    m_values.classic3Axis = Normalised(ReadHostWhole(kParameterSection, kClassic3Axis, m_values.classic3Axis));
-    m_displayModeAtOpening = m_values.displayMode;
-    m_menuIconsAtOpening = m_values.menuIcons;
-    m_classic3AxisAtOpening = m_values.classic3Axis;
-    m_needsRestart = false;
+    m_state->values.displayMode = Normalised(ReadHostWhole(kDisplaySection, kDisplayMode, m_state->values.displayMode));
+    m_state->values.menuIcons = Normalised(ReadHostWhole(kDisplaySection, kMenuIcons, m_state->values.menuIcons));
+    EnableControl(*this, IDC_NCDEF_MENU_ICONS, m_state->values.displayMode == 1);
+    m_state->values.classic3Axis =
+        Normalised(ReadHostWhole(kParameterSection, kClassic3Axis, m_state->values.classic3Axis));
+    m_state->displayModeAtOpening = m_state->values.displayMode;
+    m_state->menuIconsAtOpening = m_state->values.menuIcons;
+    m_state->classic3AxisAtOpening = m_state->values.classic3Axis;
+    m_state->needsRestart = false;
 
-    m_values.filterSpans = Normalised(ReadHostWhole(kParameterSection, kFilterSpans, m_values.filterSpans));
-    ReadTolerances(m_values);
-    m_edits = AttachExpressionEdits<NCDefaults>(*this, kExchange);
-    EnableTolerances();
+    m_state->values.filterSpans =
+        Normalised(ReadHostWhole(kParameterSection, kFilterSpans, m_state->values.filterSpans));
+    ReadTolerances(m_state->values);
+    m_state->edits = AttachExpressionEdits(*this, kControls);
+    m_state->EnableTolerances();
     UpdateData(FALSE);
     return TRUE;
 }
@@ -198,8 +301,8 @@ BOOL CDefsNCDefaultsDlg::OnInitDialog()
 void CDefsNCDefaultsDlg::DoDataExchange(CDataExchange* exchange)
 {
     CNCDialog::DoDataExchange(exchange);
-    DDX_Radio(exchange, IDC_NCDEF_TOOLBAR, m_values.displayMode);
-    ExchangeControls<NCDefaults>(exchange, m_values, kExchange);
+    DDX_Radio(exchange, IDC_NCDEF_TOOLBAR, m_state->values.displayMode);
+    ExchangeControls(exchange, &m_state->values, kControls);
 }
 
 LRESULT CDefsNCDefaultsDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -208,86 +311,50 @@ LRESULT CDefsNCDefaultsDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lPara
     return CNCDialog::WindowProc(message, wParam, lParam);
 }
 
-void CDefsNCDefaultsDlg::EnableTolerances()
-{
-    EnableControl(*this, IDC_NCDEF_MAX_SPAN, m_values.filterSpans != 0);
-    EnableControl(*this, IDC_NCDEF_ARC_TOLERANCE, m_values.filterSpans != 0);
-}
-
 LRESULT CDefsNCDefaultsDlg::SetDefaults(WPARAM, LPARAM)
 {
-    m_values.displayMode = ReadHostDefault(kDisplayMode);
-    m_values.menuIcons = IsOne(ReadHostDefault(kMenuIcons));
-    m_values.defToLastMaterial = IsOne(ReadDefaultWhole(kStartUpSection, kLastMaterial, 0));
-    m_values.defToLastTool = IsOne(ReadDefaultWhole(kStartUpSection, kLastTool, 0));
-    m_values.defToLastCutControl = IsOne(ReadDefaultWhole(kStartUpSection, kLastCutControl, 0));
-    m_values.alphanumericProgramName = IsOne(ReadDefaultWhole(kSettingsSection, kProgramName, 0));
-    m_values.calculateMinimumZ = Normalised(ReadDefaultWhole(kSettingsSection, kDialogBits, 0) & kMinimumZBit);
-    m_values.classic3Axis = IsOne(ReadHostWhole(kParameterSection, kClassic3Axis, 0));
-    m_values.filterSpans = Normalised(ReadDefaultWhole(kParameterSection, kFilterSpans, m_values.filterSpans));
-    ReadTolerances(m_values);
-    EnableTolerances();
+    m_state->values.displayMode = ReadHostDefault(kDisplayMode);
+    m_state->values.menuIcons = IsOne(ReadHostDefault(kMenuIcons));
+    m_state->values.defToLastMaterial = IsOne(ReadDefaultWhole(kStartUpSection, kLastMaterial, 0));
+    m_state->values.defToLastTool = IsOne(ReadDefaultWhole(kStartUpSection, kLastTool, 0));
+    m_state->values.defToLastCutControl = IsOne(ReadDefaultWhole(kStartUpSection, kLastCutControl, 0));
+    m_state->values.alphanumericProgramName = IsOne(ReadDefaultWhole(kSettingsSection, kProgramName, 0));
+    m_state->values.calculateMinimumZ = Normalised(ReadDefaultWhole(kSettingsSection, kDialogBits, 0) & kMinimumZBit);
+    m_state->values.classic3Axis = IsOne(ReadHostWhole(kParameterSection, kClassic3Axis, 0));
+    m_state->values.filterSpans =
+        Normalised(ReadDefaultWhole(kParameterSection, kFilterSpans, m_state->values.filterSpans));
+    ReadTolerances(m_state->values);
+    m_state->EnableTolerances();
     UpdateData(FALSE);
-    m_needsRestart = true;
+    m_state->needsRestart = true;
     return 0;
 }
 
 LRESULT CDefsNCDefaultsDlg::CheckSaveData(WPARAM, LPARAM)
 {
-    if (!m_needsRestart)
+    if (!m_state->needsRestart)
         return 0;
     if (AskToStoreUntilRestart())
-        StoreUntilRestart();
+        m_state->StoreUntilRestart();
     else
-        TakeBack();
-    m_needsRestart = false;
+        m_state->TakeBack();
+    m_state->needsRestart = false;
     return 0;
-}
-
-void CDefsNCDefaultsDlg::StoreUntilRestart() const
-{
-    WriteHostWhole(kDisplaySection, kDisplayMode, m_values.displayMode);
-    WriteHostWhole(kDisplaySection, kMenuIcons, m_values.menuIcons);
-    WriteHostWhole(kParameterSection, kClassic3Axis, m_values.classic3Axis);
-    WriteSpanFilter(m_values, kMaxSpanUntilRestart);
-}
-
-/// What needs a restart is again as it was at opening; the span filter is as it is built in.
-void CDefsNCDefaultsDlg::TakeBack()
-{
-    constexpr NCDefaults kBuiltIn;
-    m_values.displayMode = m_displayModeAtOpening;
-    m_values.menuIcons = m_menuIconsAtOpening;
-    m_values.classic3Axis = m_classic3AxisAtOpening;
-    m_values.filterSpans = kBuiltIn.filterSpans;
-    m_values.filterMaxSpan = kBuiltIn.filterMaxSpan;
-    m_values.filterArcTolerance = kBuiltIn.filterArcTolerance;
-    EnableTolerances();
-    UpdateData(FALSE);
 }
 
 void CDefsNCDefaultsDlg::OnBnClickedDisplayModeToolbar()
 {
-    ChangeDisplayMode(0);
+    m_state->ChangeDisplayMode(0);
 }
 
 void CDefsNCDefaultsDlg::OnBnClickedDisplayModeMenu()
 {
-    ChangeDisplayMode(1);
-}
-
-void CDefsNCDefaultsDlg::ChangeDisplayMode(int mode)
-{
-    if (m_values.displayMode == mode)
-        return;
-    m_values.displayMode = mode;
-    EnableControl(*this, IDC_NCDEF_MENU_ICONS, mode == 1);
-    m_needsRestart = true;
+    m_state->ChangeDisplayMode(1);
 }
 
 void CDefsNCDefaultsDlg::OnBnClickedChkIcons()
 {
-    m_needsRestart = true;
+    m_state->needsRestart = true;
 }
 
 void CDefsNCDefaultsDlg::OnBnClickedBtnMaterial()
@@ -296,17 +363,17 @@ void CDefsNCDefaultsDlg::OnBnClickedBtnMaterial()
         return;
     auto* const getMaterial = ToolLibraryFunction<GetMaterial>(ToolEntryPoint::GetMaterial);
     MaterialRecord chosen{};
-    if (getMaterial && getMaterial(kEveryGroup, m_values.material, &chosen) != 0)
-        m_values.material = chosen.id;
+    if (getMaterial && getMaterial(kEveryGroup, m_state->values.material, &chosen) != 0)
+        m_state->values.material = chosen.id;
 }
 
 void CDefsNCDefaultsDlg::OnBnClickedCheckFilterSpans()
 {
     UpdateData(TRUE);
-    EnableTolerances();
+    m_state->EnableTolerances();
 }
 
 void CDefsNCDefaultsDlg::OnHelp()
 {
-    ShowHelp(kTopic, kTopics);
+    ShowHelp(*this, GetCurrentMessage()->pt, kTopic, kControls);
 }

@@ -1,7 +1,10 @@
-#include "dialogs/nc_dialog.h"
+#include "PelmarDlgs/dialogs/nc_dialog.h"
 
+#include "dialogs/restart_question.h"
 #include "frame/module.h"
 #include "resources/resource.h"
+
+namespace pelmar {
 
 namespace {
 /// The low bits of a system command are the system's own.
@@ -33,12 +36,9 @@ void CNCDialog::WatchForContextHelp(UINT message, WPARAM wParam)
         application->m_bHelpMode = TRUE;
 }
 
-void CNCDialog::ShowHelp(const char* general, std::span<const HelpTopic> topics)
-{
-    ShowTopic(*this, ChooseTopic(*this, GetCurrentMessage()->pt, general, topics));
-}
-
 bool AskToStoreUntilRestart()
 {
     return AfxMessageBox(LoadText(IDS_RESTART_QUESTION), MB_YESNO) == IDYES;
 }
+
+} // namespace pelmar

@@ -1,15 +1,23 @@
-#include "dialogs/template_options.h"
+#include "PelmarDlgs/dialogs/template_options.h"
 
 #include <algorithm>
+#include <list>
+#include <optional>
+#include <vector>
 
 #include <util.h>
 
+#include "PelmarDlgs/settings_locations.h"
+#include "PelmarDlgs/template_defaults.h"
 #include "dialogs/folder_browser.h"
+#include "dialogs/restart_question.h"
 #include "frame/fixed_text.h"
 #include "frame/module.h"
-#include "frame/settings_locations.h"
-#include "pages/option_page.h"
+#include "frame/profile.h"
+#include "pages/page_controls.h"
 #include "resources/resource.h"
+
+using namespace pelmar;
 
 namespace {
 constexpr char kSection[] = "DefaultPath";
@@ -125,10 +133,10 @@ public:
     }
 };
 
-FixedText<kSettingsTextCapacity> StoredDatabaseFolder()
+FixedText<SettingsText::kCapacity> StoredDatabaseFolder()
 {
-    return FixedText<kSettingsTextCapacity>::FromProfile(kSection, kFolderKey, "",
-                                                         GetSettingsLocations().hostSettingsFile.c_str());
+    return FixedText<SettingsText::kCapacity>::FromProfile(kSection, kFolderKey, "",
+                                                           GetSettingsLocations().hostSettingsFile.c_str());
 }
 
 CString TextOf(const CWnd& control)
@@ -141,9 +149,184 @@ CString TextOf(const CWnd& control)
 
 static_assert(int{CTemplateOptions::IDD} == IDD_TEMPLATES);
 
+/// What the dialog edits, in the controls that the exchange attaches.
+class pelmar::TemplateOptionsState {
+public:
+    void GetOperationList()
+    {
+        if (operations.empty())
+            operations = Fetch<GetOperationListFunction, std::int32_t>(PostProcessor(), "Pelmar_GetOperationList");
+    }
+
+    void FetchSortingStrings()
+    {
+        const PostProcessor library;
+        for (const char* text : Fetch<GetSortingOptionStringsFunction, const char*>(library, "GetSortingOptionStrings"))
+            if (sortingStrings.size() < kSortOptions)
+                sortingStrings.emplace_back(text);
+    }
+
+    CString GetSortingString(int index) const
+    {
+        const bool exists = index >= 0 && index < static_cast<int>(sortingStrings.size());
+        return exists ? sortingStrings[static_cast<size_t>(index)] : CString();
+    }
+
+    int GetSortingType(CString text) const
+    {
+        const auto found = std::ranges::find(sortingStrings, text);
+        return found == sortingStrings.end() ? 0 : static_cast<int>(found - sortingStrings.begin());
+    }
+
+    void ReadRecords()
+    {
+        const PostProcessor library;
+        auto* const get = library.Find<TemplateDefaultsFunction>("GetTemplateDefaults");
+        if (!get)
+            return;
+        for (const std::int32_t operation : operations) {
+            TemplateDefaults record;
+            record.operationId = operation;
+            Guarded([&] { get(&record); });
+            if (operation != kHiddenOperation && !record.operationName.empty()) {
+                operationList.AddString(CString(record.operationName.c_str()));
+                operationList.SetCurSel(0);
+            }
+            if (record.hasDefaults != 0)
+                records.push_back(record);
+        }
+    }
+
+    void ShowFirstRecord()
+    {
+        if (records.empty())
+            return;
+        const TemplateDefaults& first = records.front();
+        defaultTemplate.SetWindowText(CString(first.templateFile.c_str()));
+        if (first.firstSortKey == 1)
+            return;
+        const auto show = [](CComboBox& list, std::int32_t sortKey) {
+            if (const std::optional<int> position = ShownPosition(sortKey))
+                Select(list, *position);
+        };
+        show(firstSort, first.firstSortKey);
+        show(secondSort, first.secondSortKey);
+        show(thirdSort, first.thirdSortKey);
+    }
+
+    // Position 0 stands for no sorting and is no choice that the next lists have to leave out. While the first list
+    // shows it, all options are appended to what the lists hold; the first list is never emptied.
+    void UpdateSortingOptions(SortOptionType type)
+    {
+        const int first = firstSort.GetCurSel();
+        int second = secondSort.GetCurSel();
+        int third = thirdSort.GetCurSel();
+        if (type == kSecondSortChanged && second >= 1)
+            thirdSort.ResetContent();
+        if (type == kFirstSortChanged && first >= 0) {
+            secondSort.ResetContent();
+            thirdSort.ResetContent();
+            second = 0;
+            third = 0;
+        }
+
+        if (first < 1) {
+            Append(firstSort, sortingStrings);
+            Append(secondSort, sortingStrings);
+            Append(thirdSort, sortingStrings);
+        } else {
+            std::vector<CString> others = sortingStrings;
+            RemoveAt(others, first);
+            if (type == kFirstSortChanged)
+                Append(secondSort, others);
+            if (second > 0)
+                RemoveAt(others, second);
+            Append(thirdSort, others);
+        }
+
+        Select(firstSort, std::max(first, 0));
+        Select(secondSort, std::max(second, 0));
+        Select(thirdSort, std::max(third, 0));
+    }
+
+    /// The operation at the list's selection, by position among all operations: those that the list leaves out shift
+    /// it.
+    std::optional<std::int32_t> ChosenOperation() const
+    {
+        const int selection = operationList.GetCurSel();
+        if (selection < 0 || selection >= static_cast<int>(operations.size()))
+            return {};
+        return operations[static_cast<size_t>(selection)];
+    }
+
+    TemplateDefaults* RecordOf(std::int32_t operation)
+    {
+        const auto found = std::ranges::find(records, operation, &TemplateDefaults::operationId);
+        return found == records.end() ? nullptr : &*found;
+    }
+
+    std::int32_t SortKeyOf(const CComboBox& list) const { return kSortKeys[GetSortingType(TextOf(list))]; }
+
+    void TakeSortKeys(TemplateDefaults& record) const
+    {
+        record.firstSortKey = SortKeyOf(firstSort);
+        record.secondSortKey = SortKeyOf(secondSort);
+        record.thirdSortKey = SortKeyOf(thirdSort);
+    }
+
+    /// Without a path the operation has no template from now on.
+    void TakeTemplateFile(std::int32_t operation, const char* path)
+    {
+        defaultTemplate.SetWindowText(*path ? CString(path) : GetSortingString(0));
+        if (TemplateDefaults* const known = RecordOf(operation)) {
+            known->templateFile = path;
+        } else {
+            TemplateDefaults record;
+            record.operationId = operation;
+            record.templateFile = path;
+            TakeSortKeys(record);
+            records.push_back(record);
+        }
+        isChanged = true;
+    }
+
+    void StoreRecords()
+    {
+        const PostProcessor library;
+        auto* const set = library.Find<TemplateDefaultsFunction>("SetTemplateDefaults");
+        if (!set)
+            return;
+        const std::optional<std::int32_t> chosen = ChosenOperation();
+        for (TemplateDefaults& record : records) {
+            record.hasDefaults = 1;
+            if (record.operationId == chosen)
+                TakeSortKeys(record);
+            Guarded([&] { set(&record); });
+        }
+    }
+
+    void StoreDatabaseFolder() const
+    {
+        const CStringA folder(TextOf(databaseFolder));
+        if (StoredDatabaseFolder().view() != folder.GetString())
+            profile::WriteText(kSection, kFolderKey, folder, GetSettingsLocations().hostSettingsFile.c_str());
+    }
+
+    std::list<TemplateDefaults> records;
+    CComboBox operationList;
+    CEdit defaultTemplate;
+    CComboBox firstSort;
+    CComboBox secondSort;
+    CComboBox thirdSort;
+    CEdit databaseFolder;
+    std::vector<std::int32_t> operations;
+    std::vector<CString> sortingStrings;
+    bool isChanged = false;
+};
+
 IMPLEMENT_DYNCREATE(CTemplateOptions, CDialog)
 
-BEGIN_MESSAGE_MAP(CTemplateOptions, CNCDialog)
+BEGIN_MESSAGE_MAP(CTemplateOptions, pelmar::CNCDialog)
     ON_COMMAND(ID_HELP, &CTemplateOptions::OnHelp)
     ON_MESSAGE(kCheckSaveDataMessage, &CTemplateOptions::CheckSaveData)
     ON_MESSAGE(kSetDefaultsMessage, &CTemplateOptions::SetDefaults)
@@ -156,38 +339,35 @@ BEGIN_MESSAGE_MAP(CTemplateOptions, CNCDialog)
     ON_EN_CHANGE(IDC_TEMPLATES_DEFAULT, &CTemplateOptions::OnTemplateDBPathChange)
 END_MESSAGE_MAP()
 
-CTemplateOptions::CTemplateOptions(CWnd* parent) : CNCDialog(IDD, parent)
+CTemplateOptions::CTemplateOptions(CWnd* parent) : CNCDialog(IDD, parent), m_state(new TemplateOptionsState)
 {
     GetOperationList();
-    FetchSortingStrings();
+    m_state->FetchSortingStrings();
 }
 
-// ---- lists of the library ----
+CTemplateOptions::~CTemplateOptions()
+{
+    delete m_state;
+}
 
 void CTemplateOptions::GetOperationList()
 {
-    if (m_operations.empty())
-        m_operations = Fetch<GetOperationListFunction, std::int32_t>(PostProcessor(), "Pelmar_GetOperationList");
-}
-
-void CTemplateOptions::FetchSortingStrings()
-{
-    const PostProcessor library;
-    for (const char* text : Fetch<GetSortingOptionStringsFunction, const char*>(library, "GetSortingOptionStrings"))
-        if (m_sortingStrings.size() < kSortOptions)
-            m_sortingStrings.emplace_back(text);
+    m_state->GetOperationList();
 }
 
 CString CTemplateOptions::GetSortingString(int index) const
 {
-    const bool exists = index >= 0 && index < static_cast<int>(m_sortingStrings.size());
-    return exists ? m_sortingStrings[static_cast<size_t>(index)] : CString();
+    return m_state->GetSortingString(index);
 }
 
 int CTemplateOptions::GetSortingType(CString text) const
 {
-    const auto found = std::ranges::find(m_sortingStrings, text);
-    return found == m_sortingStrings.end() ? 0 : static_cast<int>(found - m_sortingStrings.begin());
+    return m_state->GetSortingType(text);
+}
+
+void CTemplateOptions::UpdateSortingOptions(SortOptionType type)
+{
+    m_state->UpdateSortingOptions(type);
 }
 
 // ---- showing ----
@@ -197,154 +377,55 @@ BOOL CTemplateOptions::OnInitDialog()
     CNCDialog::OnInitDialog();
     GetDefaults();
     UpdateSortingOptions(kSortsAtStart);
-    if (m_defaultTemplate.GetWindowTextLength() == 0)
-        m_defaultTemplate.SetWindowText(GetSortingString(0));
+    if (m_state->defaultTemplate.GetWindowTextLength() == 0)
+        m_state->defaultTemplate.SetWindowText(GetSortingString(0));
     const auto folder = FixedText<kUsualFolderCapacity>::FromProfile(kSection, kFolderKey, kUsualFolder,
                                                                      util::IAppUI::GetInstance()->GetSettingsPath());
-    m_databaseFolder.SetWindowText(CString(folder.c_str()));
+    m_state->databaseFolder.SetWindowText(CString(folder.c_str()));
     return TRUE;
 }
 
 void CTemplateOptions::DoDataExchange(CDataExchange* exchange)
 {
     CNCDialog::DoDataExchange(exchange);
-    DDX_Control(exchange, IDC_TEMPLATES_OPERATION, m_operationList);
-    DDX_Control(exchange, IDC_TEMPLATES_DEFAULT, m_defaultTemplate);
-    DDX_Control(exchange, IDC_TEMPLATES_FIRST_SORT, m_firstSort);
-    DDX_Control(exchange, IDC_TEMPLATES_SECOND_SORT, m_secondSort);
-    DDX_Control(exchange, IDC_TEMPLATES_THIRD_SORT, m_thirdSort);
-    DDX_Control(exchange, IDC_TEMPLATES_DATABASE, m_databaseFolder);
+    DDX_Control(exchange, IDC_TEMPLATES_OPERATION, m_state->operationList);
+    DDX_Control(exchange, IDC_TEMPLATES_DEFAULT, m_state->defaultTemplate);
+    DDX_Control(exchange, IDC_TEMPLATES_FIRST_SORT, m_state->firstSort);
+    DDX_Control(exchange, IDC_TEMPLATES_SECOND_SORT, m_state->secondSort);
+    DDX_Control(exchange, IDC_TEMPLATES_THIRD_SORT, m_state->thirdSort);
+    DDX_Control(exchange, IDC_TEMPLATES_DATABASE, m_state->databaseFolder);
 }
 
 void CTemplateOptions::GetDefaults()
 {
-    m_records.clear();
-    ReadRecords();
-    ShowFirstRecord();
-    m_databaseFolder.SetWindowText(CString(StoredDatabaseFolder().c_str()));
-}
-
-void CTemplateOptions::ReadRecords()
-{
-    const PostProcessor library;
-    auto* const get = library.Find<TemplateDefaultsFunction>("GetTemplateDefaults");
-    if (!get)
-        return;
-    for (const std::int32_t operation : m_operations) {
-        TemplateDefaults record;
-        record.operationId = operation;
-        Guarded([&] { get(&record); });
-        if (operation != kHiddenOperation && !record.operationName.empty()) {
-            m_operationList.AddString(CString(record.operationName.c_str()));
-            m_operationList.SetCurSel(0);
-        }
-        if (record.hasDefaults != 0)
-            m_records.push_back(record);
-    }
-}
-
-void CTemplateOptions::ShowFirstRecord()
-{
-    if (m_records.empty())
-        return;
-    const TemplateDefaults& first = m_records.front();
-    m_defaultTemplate.SetWindowText(CString(first.templateFile.c_str()));
-    if (first.firstSortKey == 1)
-        return;
-    const auto show = [](CComboBox& list, std::int32_t sortKey) {
-        if (const std::optional<int> position = ShownPosition(sortKey))
-            Select(list, *position);
-    };
-    show(m_firstSort, first.firstSortKey);
-    show(m_secondSort, first.secondSortKey);
-    show(m_thirdSort, first.thirdSortKey);
-}
-
-// Position 0 stands for no sorting and is no choice that the next lists have to leave out. While the first list shows
-// it, all options are appended to what the lists hold; the first list is never emptied.
-void CTemplateOptions::UpdateSortingOptions(SortOptionType type)
-{
-    const int first = m_firstSort.GetCurSel();
-    int second = m_secondSort.GetCurSel();
-    int third = m_thirdSort.GetCurSel();
-    if (type == kSecondSortChanged && second >= 1)
-        m_thirdSort.ResetContent();
-    if (type == kFirstSortChanged && first >= 0) {
-        m_secondSort.ResetContent();
-        m_thirdSort.ResetContent();
-        second = 0;
-        third = 0;
-    }
-
-    if (first < 1) {
-        Append(m_firstSort, m_sortingStrings);
-        Append(m_secondSort, m_sortingStrings);
-        Append(m_thirdSort, m_sortingStrings);
-    } else {
-        std::vector<CString> others = m_sortingStrings;
-        RemoveAt(others, first);
-        if (type == kFirstSortChanged)
-            Append(m_secondSort, others);
-        if (second > 0)
-            RemoveAt(others, second);
-        Append(m_thirdSort, others);
-    }
-
-    Select(m_firstSort, std::max(first, 0));
-    Select(m_secondSort, std::max(second, 0));
-    Select(m_thirdSort, std::max(third, 0));
+    m_state->records.clear();
+    m_state->ReadRecords();
+    m_state->ShowFirstRecord();
+    m_state->databaseFolder.SetWindowText(CString(StoredDatabaseFolder().c_str()));
 }
 
 void CTemplateOptions::OnCbnSelchangeCombo1stSort()
 {
     UpdateSortingOptions(kFirstSortChanged);
-    m_isChanged = true;
+    m_state->isChanged = true;
 }
 
 void CTemplateOptions::OnCbnSelchangeCombo2ndSort()
 {
     UpdateSortingOptions(kSecondSortChanged);
-    m_isChanged = true;
+    m_state->isChanged = true;
 }
 
 void CTemplateOptions::OnCbnSelchangeComboToolpathOperation()
 {
-    const std::optional<std::int32_t> operation = ChosenOperation();
-    const TemplateDefaults* const record = operation ? RecordOf(*operation) : nullptr;
-    m_defaultTemplate.SetWindowText(record ? CString(record->templateFile.c_str()) : GetSortingString(0));
+    const std::optional<std::int32_t> operation = m_state->ChosenOperation();
+    const TemplateDefaults* const record = operation ? m_state->RecordOf(*operation) : nullptr;
+    m_state->defaultTemplate.SetWindowText(record ? CString(record->templateFile.c_str()) : GetSortingString(0));
 }
 
 void CTemplateOptions::OnTemplateDBPathChange()
 {
-    m_isChanged = true;
-}
-
-// ---- records ----
-
-std::optional<std::int32_t> CTemplateOptions::ChosenOperation() const
-{
-    const int selection = m_operationList.GetCurSel();
-    if (selection < 0 || selection >= static_cast<int>(m_operations.size()))
-        return {};
-    return m_operations[static_cast<size_t>(selection)];
-}
-
-TemplateDefaults* CTemplateOptions::RecordOf(std::int32_t operation)
-{
-    const auto found = std::ranges::find(m_records, operation, &TemplateDefaults::operationId);
-    return found == m_records.end() ? nullptr : &*found;
-}
-
-std::int32_t CTemplateOptions::SortKeyOf(const CComboBox& list) const
-{
-    return kSortKeys[GetSortingType(TextOf(list))];
-}
-
-void CTemplateOptions::TakeSortKeys(TemplateDefaults& record) const
-{
-    record.firstSortKey = SortKeyOf(m_firstSort);
-    record.secondSortKey = SortKeyOf(m_secondSort);
-    record.thirdSortKey = SortKeyOf(m_thirdSort);
+    m_state->isChanged = true;
 }
 
 // ---- choosing ----
@@ -362,42 +443,26 @@ void CTemplateOptions::OnBnClickedTemplateFileDirBtn()
         return;
     }
     try {
-        if (const std::optional<std::int32_t> operation = ChosenOperation()) {
+        if (const std::optional<std::int32_t> operation = m_state->ChosenOperation()) {
             std::vector<char> path(kTemplatePathCapacity);
             if (select(*operation, path.data()) == 0)
                 path.front() = '\0';
             path.back() = '\0';
-            TakeTemplateFile(*operation, path.data());
+            m_state->TakeTemplateFile(*operation, path.data());
         }
     } catch (...) {
         throw new CTemplateManagerException;
     }
 }
 
-/// Without a path the operation has no template from now on.
-void CTemplateOptions::TakeTemplateFile(std::int32_t operation, const char* path)
-{
-    m_defaultTemplate.SetWindowText(*path ? CString(path) : GetSortingString(0));
-    if (TemplateDefaults* const known = RecordOf(operation)) {
-        known->templateFile = path;
-    } else {
-        TemplateDefaults record;
-        record.operationId = operation;
-        record.templateFile = path;
-        TakeSortKeys(record);
-        m_records.push_back(record);
-    }
-    m_isChanged = true;
-}
-
 void CTemplateOptions::OnBnClickedTemplateDbPathDirBtn()
 {
-    const CStringA initial(TextOf(m_databaseFolder));
+    const CStringA initial(TextOf(m_state->databaseFolder));
     const std::optional<std::string> folder = BrowseForFolder(m_hWnd, IDS_CHOOSE_TEMPLATE_DATABASE, initial);
     if (!folder)
         return;
-    m_databaseFolder.SetWindowText(CString(folder->c_str()));
-    m_isChanged = true;
+    m_state->databaseFolder.SetWindowText(CString(folder->c_str()));
+    m_state->isChanged = true;
 }
 
 // ---- messages of the host ----
@@ -406,42 +471,20 @@ LRESULT CTemplateOptions::SetDefaults(WPARAM, LPARAM)
 {
     GetDefaults();
     UpdateData(FALSE);
-    m_isChanged = true;
+    m_state->isChanged = true;
     return 0;
 }
 
 LRESULT CTemplateOptions::CheckSaveData(WPARAM, LPARAM)
 {
-    if (!m_isChanged)
+    if (!m_state->isChanged)
         return 0;
     if (AskToStoreUntilRestart()) {
-        StoreRecords();
-        StoreDatabaseFolder();
+        m_state->StoreRecords();
+        m_state->StoreDatabaseFolder();
     }
-    m_isChanged = false;
+    m_state->isChanged = false;
     return 0;
-}
-
-void CTemplateOptions::StoreRecords()
-{
-    const PostProcessor library;
-    auto* const set = library.Find<TemplateDefaultsFunction>("SetTemplateDefaults");
-    if (!set)
-        return;
-    const std::optional<std::int32_t> chosen = ChosenOperation();
-    for (TemplateDefaults& record : m_records) {
-        record.hasDefaults = 1;
-        if (record.operationId == chosen)
-            TakeSortKeys(record);
-        Guarded([&] { set(&record); });
-    }
-}
-
-void CTemplateOptions::StoreDatabaseFolder() const
-{
-    const CStringA folder(TextOf(m_databaseFolder));
-    if (StoredDatabaseFolder().view() != folder.GetString())
-        profile::WriteText(kSection, kFolderKey, folder, GetSettingsLocations().hostSettingsFile.c_str());
 }
 
 // ---- help ----
@@ -453,7 +496,7 @@ const char* CTemplateOptions::GetHelpInfo(UINT) const
 
 void CTemplateOptions::OnHelp()
 {
-    ShowHelp(GetHelpInfo(0), {});
+    ShowHelp(*this, GetCurrentMessage()->pt, GetHelpInfo(0), {});
 }
 
 LRESULT CTemplateOptions::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)

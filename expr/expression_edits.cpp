@@ -1,8 +1,9 @@
-#include "expr/expression_edits.h"
+#include "PelmarDlgs/expression_edits.h"
 
-#include "expr/evaluator.h"
-#include "frame/settings_values.h"
+#include "PelmarDlgs/evaluator.h"
+#include "PelmarDlgs/settings_values.h"
 
+namespace pelmar {
 namespace {
 constexpr int kMaxTyped = 254;
 
@@ -25,14 +26,6 @@ void ReplaceText(HWND control, const CString& text)
 CString DisplayText(double value, const int* isSet)
 {
     return !isSet || *isSet ? CString(FormatForDisplay(value).c_str()) : CString();
-}
-
-std::optional<int> EvaluateWhole(const char* text)
-{
-    int value = 0;
-    if (!EvalFieldInt(text, &value))
-        return std::nullopt;
-    return value;
 }
 } // namespace
 
@@ -67,29 +60,41 @@ void CExpEqEditBase::OnChar(UINT character, UINT repeatCount, UINT flags)
     const CString text = TextOf(m_hWnd);
     if (text.IsEmpty())
         return;
-    if (const std::optional<std::string> value = Evaluate(CStringA(text)))
-        ReplaceText(m_hWnd, CString(value->c_str()));
+    CString value;
+    if (Evaluate(CStringA(text), value))
+        ReplaceText(m_hWnd, value);
 }
 
-std::optional<std::string> CExpEqEdit::Evaluate(const char* text) const
+} // namespace pelmar
+
+bool CExpEqEdit::Evaluate(const char* text, CString& shown) const
 {
     double value = 0;
     if (!EvalFieldReal(text, &value))
-        return std::nullopt;
-    return FormatForDisplay(value);
+        return false;
+    shown = pelmar::FormatForDisplay(value).c_str();
+    return true;
 }
 
-std::optional<std::string> CExpEqEditInt::Evaluate(const char* text) const
+bool CExpEqEditInt::Evaluate(const char* text, CString& shown) const
 {
-    const std::optional<int> value = EvaluateWhole(text);
-    return value ? std::optional(std::to_string(*value)) : std::nullopt;
+    int value = 0;
+    if (!EvalFieldInt(text, &value))
+        return false;
+    shown.Format(L"%d", value);
+    return true;
 }
 
-std::optional<std::string> CExpEqEditUInt::Evaluate(const char* text) const
+bool CExpEqEditUInt::Evaluate(const char* text, CString& shown) const
 {
-    const std::optional<int> value = EvaluateWhole(text);
-    return value ? std::optional(std::to_string(static_cast<unsigned>(*value))) : std::nullopt;
+    int value = 0;
+    if (!EvalFieldInt(text, &value))
+        return false;
+    shown.Format(L"%u", static_cast<unsigned>(value));
+    return true;
 }
+
+namespace pelmar {
 
 int& ExpressionQuietFlag()
 {
@@ -142,3 +147,5 @@ void ShowExpression(const CWnd* parent, int id, double* value, int* isSet)
     *value = WithoutNoise(*value);
     ReplaceText(control->m_hWnd, DisplayText(*value, isSet));
 }
+
+} // namespace pelmar

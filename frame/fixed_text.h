@@ -6,9 +6,9 @@
 #include <cstring>
 #include <string_view>
 
-#include <windows.h>
-
 #include "frame/profile.h"
+
+namespace pelmar {
 
 /// A zero-terminated text in a buffer of `Capacity` characters, terminator included. What does not fit is cut off.
 template <size_t Capacity> class FixedText {
@@ -63,3 +63,5 @@ inline std::string_view FolderOf(std::string_view path)
 {
     return path.substr(0, path.rfind('\\') + 1);
 }
+
+} // namespace pelmar

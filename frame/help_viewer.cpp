@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "frame/fixed_text.h"
-#include "frame/settings_locations.h"
+#include "PelmarDlgs/settings_locations.h"
 
+namespace pelmar {
 namespace {
 using HtmlHelpFunction = HWND WINAPI(HWND caller, const char* file, UINT command, DWORD_PTR data);
 constexpr UINT kDisplayTopic = 0;
@@ -23,7 +23,7 @@ std::string RegisteredPath()
     RegCloseKey(key);
     if (read != ERROR_SUCCESS || (type != REG_SZ && type != REG_EXPAND_SZ))
         return {};
-    char expanded[kSettingsTextCapacity] = {};
+    char expanded[SettingsText::kCapacity] = {};
     const DWORD length = ExpandEnvironmentStringsA(path, expanded, sizeof expanded);
     return length > 0 && length <= sizeof expanded ? expanded : "";
 }
@@ -37,18 +37,14 @@ HtmlHelpFunction* LoadViewer()
 }
 } // namespace
 
-const char* ChooseTopic(const CWnd& window, CPoint position, const char* general, std::span<const HelpTopic> topics)
+std::optional<INT_PTR> EndHelpMode(const CWnd& window, CPoint position)
 {
     CWinApp* const application = AfxGetApp();
     if (!application || !application->m_bHelpMode)
-        return general;
+        return {};
     application->m_bHelpMode = FALSE;
     window.ScreenToClient(&position);
-    const INT_PTR control = window.OnToolHitTest(position, nullptr);
-    for (const HelpTopic& row : topics)
-        if (row.control == control)
-            return row.topic;
-    return general;
+    return window.OnToolHitTest(position, nullptr);
 }
 
 void ShowTopic(const CWnd& window, const char* topic)
@@ -59,3 +55,5 @@ void ShowTopic(const CWnd& window, const char* topic)
         htmlHelp(window.m_hWnd, GetSettingsLocations().helpFile.c_str(), kDisplayTopic,
                  reinterpret_cast<DWORD_PTR>(topic));
 }
+
+} // namespace pelmar

@@ -4,7 +4,9 @@
 
 #include <afxdllx.h>
 
-#include "frame/settings_locations.h"
+#include "PelmarDlgs/library.h"
+#include "PelmarDlgs/settings_locations.h"
+#include "frame/locate.h"
 #include "frame/tool_library.h"
 
 namespace {
@@ -19,9 +21,11 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*)
     }
     if (reason == DLL_PROCESS_ATTACH && !AfxInitExtensionModule(g_module, instance))
         return FALSE;
-    LocateHelpFile();
+    pelmar::LocateHelpFile();
     return TRUE;
 }
+
+namespace pelmar {
 
 HINSTANCE ModuleInstance()
 {
@@ -35,6 +39,8 @@ CString LoadText(UINT id)
     return length > 0 ? CString(resource, length) : CString();
 }
 
+} // namespace pelmar
+
 CDynLinkLibrary* InitPelmarDlgsDLL()
 {
     return new (std::nothrow) CDynLinkLibrary(g_module);
@@ -42,11 +48,11 @@ CDynLinkLibrary* InitPelmarDlgsDLL()
 
 int InitializePelmarDlgsDLL()
 {
-    LocateSettings();
-    return LoadToolLibrary(GetSettingsLocations().toolLibraryName.c_str()) ? 1 : 0;
+    pelmar::LocateSettings();
+    return pelmar::LoadToolLibrary(pelmar::GetSettingsLocations().toolLibraryName.c_str()) ? 1 : 0;
 }
 
 void FinalizePelmarDlgsDLL()
 {
-    UnloadToolLibrary();
+    pelmar::UnloadToolLibrary();
 }

@@ -6,7 +6,7 @@
 #include <cstring>
 #include <span>
 
-#include <windows.h>
+#include <afx.h>
 
 namespace profile {
 

@@ -1,11 +1,15 @@
-#include "frame/settings_locations.h"
+#include "PelmarDlgs/settings_locations.h"
 
 #include <string>
 
-#include "frame/module.h"
+#include "PelmarDlgs/library.h"
+#include "frame/fixed_text.h"
+#include "frame/locate.h"
 
+namespace pelmar {
 namespace {
-using SettingsText = FixedText<kSettingsTextCapacity>;
+using PathText = FixedText<SettingsText::kCapacity>;
+using HelpFileText = FixedText<255>;
 using CoreText = FixedText<512>;
 
 constexpr char kDefaultMachine[] = "\\3AxGeneric\\3AxGeneric.xml";
@@ -14,15 +18,22 @@ SettingsLocations g_locations;
 
 /// What the host's own files say of where everything else is.
 struct HostFiles {
-    SettingsText folder;
-    SettingsText core;
-    SettingsText settings;
+    PathText folder;
+    PathText core;
+    PathText settings;
 };
+
+template <class... Pieces> PathText Joined(const Pieces&... pieces)
+{
+    PathText text;
+    text.Assign(pieces...);
+    return text;
+}
 
 HostFiles LocateHostFiles()
 {
     HostFiles files;
-    files.folder.Assign(FolderOf(SettingsText::OfExecutable()));
+    files.folder.Assign(FolderOf(PathText::OfExecutable()));
     files.core.Assign(files.folder, "TORVEXCore.INI");
     const CoreText folder =
         CoreText::FromProfile("DefaultPath", "TorvexIniPath", files.core.c_str(), files.core.c_str());
@@ -52,9 +63,9 @@ std::string MachineBelow(std::string_view folder, std::string_view machine)
 
 void MoveMachine(const HostFiles& host, const char* folder)
 {
-    const SettingsText file =
-        SettingsText::FromProfile("DefaultPath", "MachSimIniPath", host.core.c_str(), host.settings.c_str());
-    const SettingsText machine = SettingsText::FromProfile("startup", "mdfilename", "", file.c_str());
+    const PathText file =
+        PathText::FromProfile("DefaultPath", "MachSimIniPath", host.core.c_str(), host.settings.c_str());
+    const PathText machine = PathText::FromProfile("startup", "mdfilename", "", file.c_str());
     profile::WriteText("startup", "mdfilename", MachineBelow(folder, machine).c_str(), file.c_str());
 }
 } // namespace
@@ -67,13 +78,15 @@ const SettingsLocations& GetSettingsLocations()
 void LocateHelpFile()
 {
     constexpr std::string_view kExecutable = "\\TORVEX.EXE";
-    SettingsText path = SettingsText::OfExecutable();
+    PathText path = PathText::OfExecutable();
     path.MakeUpper();
     // Under another name the host has no help folder of its own: the topic file is then looked for on the current
     // drive.
     const size_t found = path.view().find(kExecutable);
     const std::string_view folder = found == std::string_view::npos ? "" : path.view().substr(0, found);
-    g_locations.helpFile.Assign(folder, "\\Help\\TORVEX.chm");
+    HelpFileText file;
+    file.Assign(folder, "\\Help\\TORVEX.chm");
+    g_locations.helpFile = file;
 }
 
 void LocateSettings()
@@ -83,26 +96,27 @@ void LocateSettings()
     g_locations.hostFolder = host.folder;
     g_locations.hostSettingsFile = host.settings;
     // The separator stands twice; the host compares this path as text.
-    g_locations.hostDefaultsFile.Assign(host.folder, "\\", "Def\\TORVEX.INI");
+    g_locations.hostDefaultsFile = Joined(host.folder, "\\", "Def\\TORVEX.INI");
 
-    const SettingsText folder = SettingsText::FromProfile("DefaultPath", "NCDefaultPath", ".\\NCDEFAULT", settings);
-    const SettingsText startup =
-        SettingsText::FromProfile("DefaultNCParameter", "NCDefaultStartup", "NCCurrentFileName", settings);
-    const SettingsText current = SettingsText::FromProfile("NCDefaultFile", startup.c_str(), "CURRENT.INI", settings);
-    const SettingsText defaults =
-        SettingsText::FromProfile("NCDefaultFile", "NCDefaultFileName", "DEFAULT.INI", settings);
-    g_locations.settingsFile.Assign(folder, "\\", current);
-    g_locations.defaultsFile.Assign(folder, "\\", defaults);
+    const PathText folder = PathText::FromProfile("DefaultPath", "NCDefaultPath", ".\\NCDEFAULT", settings);
+    const PathText startup =
+        PathText::FromProfile("DefaultNCParameter", "NCDefaultStartup", "NCCurrentFileName", settings);
+    const PathText current = PathText::FromProfile("NCDefaultFile", startup.c_str(), "CURRENT.INI", settings);
+    const PathText defaults = PathText::FromProfile("NCDefaultFile", "NCDefaultFileName", "DEFAULT.INI", settings);
+    g_locations.settingsFile = Joined(folder, "\\", current);
+    g_locations.defaultsFile = Joined(folder, "\\", defaults);
 
-    SettingsText librarySettings;
+    PathText librarySettings;
     librarySettings.Assign(FolderOf(host.settings), "TORVEXCore.ini");
     g_locations.toolLibraryName =
-        SettingsText::FromProfile("DefaultSystemFile", "ToolLib", "ToolLib.DLL", librarySettings.c_str());
+        PathText::FromProfile("DefaultSystemFile", "ToolLib", "ToolLib.DLL", librarySettings.c_str());
 
-    MoveMachine(host, SettingsText::FromProfile("DefaultPath", "MachSimPath", kDefaultMachine, settings).c_str());
+    MoveMachine(host, PathText::FromProfile("DefaultPath", "MachSimPath", kDefaultMachine, settings).c_str());
 }
+
+} // namespace pelmar
 
 void PelmarUI_SetMachineSimPath(const char* folder)
 {
-    MoveMachine(LocateHostFiles(), folder ? folder : "");
+    pelmar::MoveMachine(pelmar::LocateHostFiles(), folder ? folder : "");
 }

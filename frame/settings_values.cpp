@@ -1,18 +1,19 @@
-#include "frame/settings_values.h"
+#include "PelmarDlgs/settings_values.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 
-#include <windows.h>
-
+#include "PelmarDlgs/settings_locations.h"
 #include "frame/number_text.h"
 #include "frame/profile.h"
-#include "frame/settings_locations.h"
+#include "frame/settings_texts.h"
 
+namespace pelmar {
 namespace {
 constexpr int kStoredDecimals = 6;
 constexpr size_t kRealCapacity = 256;
+constexpr size_t kTextCapacity = 256;
 
 double ReadRealFrom(const char* file, const char* section, const char* key, double fallback)
 {
@@ -71,6 +72,18 @@ double ReadDefaultReal(const char* section, const char* key, double fallback)
     return ReadRealFrom(DefaultsFile(), section, key, fallback);
 }
 
+std::string ReadText(const char* section, const char* key)
+{
+    char text[kTextCapacity];
+    profile::ReadText(section, key, "", text, SettingsFile());
+    return text;
+}
+
+void WriteSystemText(const char* section, const char* key, const char* text)
+{
+    WriteProfileStringA(section, key, text);
+}
+
 int DisplayDecimals()
 {
     constexpr int kUsual = 4;
@@ -88,3 +101,5 @@ std::string FormatForDisplay(double value)
     number_text::FixedBuffer text;
     return std::string(number_text::Print(text, WithoutNoise(value), DisplayDecimals()));
 }
+
+} // namespace pelmar

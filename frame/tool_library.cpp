@@ -2,6 +2,7 @@
 
 #include <array>
 
+namespace pelmar {
 namespace {
 constexpr std::array kNames = {
     "ToolLib_nGetMillTool",
@@ -90,3 +91,5 @@ bool& MaterialLibrarySwitch()
 {
     return g_materialLibrary;
 }
+
+} // namespace pelmar

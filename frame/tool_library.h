@@ -1,9 +1,11 @@
 // The tool library, a DLL of the host's that knows its tools and materials.
 #pragma once
 
-#include <windows.h>
+#include <afx.h>
 
-#include "frame/export.h"
+#include "PelmarDlgs/library.h"
+
+namespace pelmar {
 
 /// Its entry points, in the order in which they are looked up.
 enum class ToolEntryPoint {
@@ -57,6 +59,4 @@ template <class Function> Function* ToolLibraryFunction(ToolEntryPoint entryPoin
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(ToolLibraryAddress(entryPoint)));
 }
 
-/// Whether materials may be chosen from the tool library and gauge lengths taken from it. Off as long as nobody
-/// switches it on: the module itself never does.
-PELMAR_API bool& MaterialLibrarySwitch();
+} // namespace pelmar

@@ -1,12 +1,13 @@
-#include "pages/lathe_axes.h"
+#include "PelmarDlgs/pages/lathe_axes.h"
 
-#include "expr/expression_edits.h"
 #include "frame/module.h"
 #include "pages/page_controls.h"
 #include "resources/resource.h"
 
+using namespace pelmar;
+
 namespace {
-constexpr const wchar_t* kLabels[] = {L"-", L"X", L"Y", L"Z", L"D", L"R"};
+constexpr ChoiceText kLabels[] = {"-", "X", "Y", "Z", "D", "R"};
 
 constexpr int kLabelLists[] = {IDC_LATHE_AXES_LABEL_1, IDC_LATHE_AXES_LABEL_2, IDC_LATHE_AXES_LABEL_3};
 
@@ -60,44 +61,66 @@ BEGIN_MESSAGE_MAP(CLatheInputDisplayPage, CPropertyPageTVEx)
     ON_BN_CLICKED(IDC_LATHE_AXES_ACTIVE, &CLatheInputDisplayPage::OnActiveAtStartup)
 END_MESSAGE_MAP()
 
-CLatheInputDisplayPage::CLatheInputDisplayPage(LatheAxisUse use) : CPropertyPageTVEx(IDD), m_use(use)
+/// The mode as the page edits it.
+class pelmar::LatheAxisEditor {
+public:
+    explicit LatheAxisEditor(LatheAxisUse axisUse) : use(axisUse) {}
+
+    void Show(CLatheInputDisplayPage& page)
+    {
+        const Text& atStartup = use == LatheAxisUse::Input ? kInputAtStartup : kDisplayAtStartup;
+        page.SetDlgItemText(IDC_LATHE_AXES_ACTIVE, atStartup.Load());
+        working = page.m_mode;
+        for (size_t axis = 0; axis < std::size(kLabelLists); ++axis) {
+            FillList(page, kLabelLists[axis], kLabels);
+            SelectIndex(page, kLabelLists[axis], working.labels[axis]);
+        }
+        page.UpdateData(FALSE);
+    }
+
+    const LatheAxisUse use;
+    bool isFirstActivation = true;
+    LatheAxisMode working;
+    bool overridesOther = false;
+};
+
+CLatheInputDisplayPage::CLatheInputDisplayPage(LatheAxisUse use)
+    : CPropertyPageTVEx(IDD), m_editor(new LatheAxisEditor(use))
 {
     m_psp.hInstance = ModuleInstance();
     m_psp.dwFlags &= ~DWORD{PSP_HASHELP}; // the help file has no topic on it
 }
 
-BOOL CLatheInputDisplayPage::OnSetActive()
+CLatheInputDisplayPage::~CLatheInputDisplayPage()
 {
-    if (m_firstActivation) {
-        ShowMode();
-        m_firstActivation = 0;
-    }
-    return CPropertyPageTVEx::OnSetActive();
+    delete m_editor;
 }
 
-void CLatheInputDisplayPage::ShowMode()
+bool CLatheInputDisplayPage::OverridesOther() const
 {
-    const Text& atStartup = m_use == LatheAxisUse::Input ? kInputAtStartup : kDisplayAtStartup;
-    SetDlgItemText(IDC_LATHE_AXES_ACTIVE, atStartup.Load());
-    m_working = m_mode;
-    for (size_t axis = 0; axis < std::size(kLabelLists); ++axis) {
-        FillList(*this, kLabelLists[axis], kLabels);
-        SelectIndex(*this, kLabelLists[axis], m_working.labels[axis]);
-    }
-    UpdateData(FALSE);
+    return m_editor->overridesOther;
+}
+
+BOOL CLatheInputDisplayPage::OnSetActive()
+{
+    if (m_editor->isFirstActivation)
+        m_editor->Show(*this);
+    m_editor->isFirstActivation = false;
+    return CPropertyPageTVEx::OnSetActive();
 }
 
 void CLatheInputDisplayPage::DoDataExchange(CDataExchange* exchange)
 {
     CPropertyPageTVEx::DoDataExchange(exchange);
+    LatheAxisMode& working = m_editor->working;
     for (size_t axis = 0; axis < std::size(kDirectionEdits); ++axis)
         for (size_t component = 0; component < std::size(kDirectionEdits[axis]); ++component)
             if (const int id = kDirectionEdits[axis][component]; ControlOf(*this, id))
-                DDX_Expression(exchange, id, m_working.directions[axis][component]);
-    if (exchange->m_bSaveAndValidate)
-        StoreCheck(*this, IDC_LATHE_AXES_ACTIVE, m_working.active);
-    else
-        ShowCheck(*this, IDC_LATHE_AXES_ACTIVE, m_working.active != 0);
+                DDX_Expression(exchange, id, working.directions[axis][component]);
+    if (!exchange->m_bSaveAndValidate)
+        ShowCheck(*this, IDC_LATHE_AXES_ACTIVE, working.active != 0);
+    else if (ControlOf(*this, IDC_LATHE_AXES_ACTIVE))
+        working.active = IsChecked(*this, IDC_LATHE_AXES_ACTIVE) ? 1 : 0;
 }
 
 void CLatheInputDisplayPage::OnActiveAtStartup()
@@ -106,20 +129,20 @@ void CLatheInputDisplayPage::OnActiveAtStartup()
     UpdateData(TRUE);
     if (!IsDlgButtonChecked(IDC_LATHE_AXES_ACTIVE) || !m_otherIsActive)
         return;
-    const Text& conflict = m_use == LatheAxisUse::Input ? kBothInputsActive : kBothDisplaysActive;
+    const Text& conflict = m_editor->use == LatheAxisUse::Input ? kBothInputsActive : kBothDisplaysActive;
     AfxMessageBox(conflict.Load());
-    m_overridesOther = AfxMessageBox(kOverrideQuestion.Load(), MB_YESNO | MB_ICONSTOP) == IDYES;
-    if (m_overridesOther)
+    m_editor->overridesOther = AfxMessageBox(kOverrideQuestion.Load(), MB_YESNO | MB_ICONSTOP) == IDYES;
+    if (m_editor->overridesOther)
         return;
-    m_working.active = 0;
+    m_editor->working.active = 0;
     ShowCheck(*this, IDC_LATHE_AXES_ACTIVE, false);
 }
 
 void CLatheInputDisplayPage::OnOK()
 {
     for (size_t axis = 0; axis < std::size(kLabelLists); ++axis)
-        StoreSelection(*this, kLabelLists[axis], m_working.labels[axis]);
-    m_mode = m_working;
+        StoreSelection(*this, kLabelLists[axis], m_editor->working.labels[axis]);
+    m_mode = m_editor->working;
     CPropertyPageTVEx::OnOK();
 }
 

@@ -1,4 +1,4 @@
-#include "pages/option_page.h"
+#include "PelmarDlgs/pages/option_page.h"
 
 #include "frame/module.h"
 
@@ -10,12 +10,12 @@ END_MESSAGE_MAP()
 
 CExpRegenPropertyPage::CExpRegenPropertyPage(int templateId) : CPropertyPageTVEx(static_cast<UINT>(templateId))
 {
-    m_psp.hInstance = ModuleInstance();
+    m_psp.hInstance = pelmar::ModuleInstance();
 }
 
 BOOL CExpRegenPropertyPage::Create(UINT templateId, CWnd* parent)
 {
-    const ModuleResources resources;
+    const pelmar::ModuleResources resources;
     return CPropertyPageTVEx::Create(templateId, parent);
 }
 
@@ -43,9 +43,4 @@ BOOL CExpRegenPropertyPage::OnSetActive()
 void CExpRegenPropertyPage::DoDataExchange(CDataExchange* exchange)
 {
     CPropertyPageTVEx::DoDataExchange(exchange);
-}
-
-void CExpRegenPropertyPage::ShowHelp(const char* pageTopic, std::span<const HelpTopic> topics)
-{
-    ShowTopic(*this, ChooseTopic(*this, GetCurrentMessage()->pt, pageTopic, topics));
 }

@@ -1,17 +1,53 @@
 #include "pages/page_controls.h"
 
+#include "frame/help_viewer.h"
 #include "frame/module.h"
 
+namespace pelmar {
 namespace {
-/// Adds the texts to the list where it is still empty.
-template <class Text, class Load> void FillWith(const CWnd& page, int id, std::span<const Text> texts, Load load)
+
+CString TextOf(const ChoiceText& text)
 {
-    const HWND list = ControlOf(page, id);
-    if (!list || SendMessage(list, CB_GETCOUNT, 0, 0) > 0)
-        return;
-    for (const Text text : texts)
-        SendMessage(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(load(text).GetString()));
+    return text.literal ? CString(text.literal) : LoadText(text.id);
 }
+
+/// Exchanges a real. The field keeps its value until the new one has passed its check.
+void ExchangeReal(CDataExchange* exchange, void* record, const Control& control)
+{
+    const Option& checked = control.checkedInstead ? *control.checkedInstead : *control.option;
+    const Range range = control.range.value_or(checked.range);
+    double value = control.option->Real(record);
+    DDX_Expression(exchange, control.id, value);
+    DDV_ExpressionRange(exchange, control.checkedInstead ? checked.Real(record) : value, range.low, range.high);
+    control.option->real(record) = value;
+}
+
+void ExchangeSwitch(CDataExchange* exchange, int& value, const Control& control)
+{
+    const SwitchValues& values = control.option->switchValues;
+    if (control.isExchangedAsItStands || (values.on == 1 && values.off == 0))
+        DDX_Check(exchange, control.id, value);
+    else if (exchange->m_bSaveAndValidate)
+        value = IsChecked(*exchange->m_pDlgWnd, control.id) ? values.on : values.off;
+    else
+        ShowCheck(*exchange->m_pDlgWnd, control.id, control.option->IsOn(value));
+}
+
+void ExchangeControl(CDataExchange* exchange, void* record, const Control& control)
+{
+    if (control.option->real) {
+        ExchangeReal(exchange, record, control);
+        return;
+    }
+    int& value = control.option->whole(record);
+    if (control.kind == ControlKind::List)
+        DDX_CBIndex(exchange, control.id, value);
+    else if (control.kind == ControlKind::Check)
+        ExchangeSwitch(exchange, value, control);
+    else
+        DDX_Text(exchange, control.id, value);
+}
+
 } // namespace
 
 void EnableControl(const CWnd& page, int id, bool enable)
@@ -26,20 +62,23 @@ void HideControl(const CWnd& page, int id)
         ShowWindow(control, SW_HIDE);
 }
 
-void FillList(const CWnd& page, int id, std::span<const UINT> texts)
+void FillList(const CWnd& page, int id, ChoiceTexts texts)
 {
-    FillWith(page, id, texts, LoadText);
-}
-
-void FillList(const CWnd& page, int id, std::span<const wchar_t* const> texts)
-{
-    FillWith(page, id, texts, [](const wchar_t* text) { return CString(text); });
+    const HWND list = ControlOf(page, id);
+    if (!list || SendMessage(list, CB_GETCOUNT, 0, 0) > 0)
+        return;
+    for (const ChoiceText& text : texts)
+        SendMessage(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(TextOf(text).GetString()));
 }
 
 void SelectIndex(const CWnd& page, int id, int index)
 {
-    if (const HWND list = ControlOf(page, id))
-        SendMessage(list, CB_SETCURSEL, static_cast<WPARAM>(static_cast<INT_PTR>(index)), 0);
+    const HWND list = ControlOf(page, id);
+    if (!list)
+        return;
+    // Not every system lets go of the old selection by itself where there is no such item.
+    if (SendMessage(list, CB_SETCURSEL, static_cast<WPARAM>(static_cast<INT_PTR>(index)), 0) == CB_ERR)
+        SendMessage(list, CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
 }
 
 std::optional<int> SelectedIndex(const CWnd& page, int id)
@@ -58,52 +97,69 @@ bool StoreSelection(const CWnd& page, int id, int& value)
     return index.has_value();
 }
 
-bool StoreNewSelection(const CWnd& page, int id, int& value)
-{
-    const int before = value;
-    return StoreSelection(page, id, value) && value != before;
-}
-
 void ShowCheck(const CWnd& page, int id, bool checked)
 {
     if (const HWND box = ControlOf(page, id))
         SendMessage(box, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
 }
 
-void StoreCheck(const CWnd& page, int id, int& value, int unchecked, int checked)
+bool IsChecked(const CWnd& page, int id)
 {
-    if (const HWND box = ControlOf(page, id))
-        value = SendMessage(box, BM_GETCHECK, 0, 0) == BST_CHECKED ? checked : unchecked;
+    const HWND box = ControlOf(page, id);
+    return box && SendMessage(box, BM_GETCHECK, 0, 0) == BST_CHECKED;
 }
 
-void ExchangeOnOff(CDataExchange* exchange, int id, int& value)
+void ExchangeControls(CDataExchange* exchange, void* record, std::span<const Control> controls)
 {
-    if (exchange->m_bSaveAndValidate)
-        StoreCheck(*exchange->m_pDlgWnd, id, value, kGougeCheckOff);
-    else
-        ShowCheck(*exchange->m_pDlgWnd, id, value != kGougeCheckOff);
+    for (const Control& control : controls)
+        if (control.isExchanged && ControlOf(*exchange->m_pDlgWnd, control.id))
+            ExchangeControl(exchange, record, control);
 }
 
-void NotifySiblings(CPropertyPage& page, WPARAM code, int index)
+ExpressionEdits AttachExpressionEdits(CWnd& page, std::span<const Control> controls)
 {
-    page.QuerySiblings(code, index);
+    ExpressionEdits edits;
+    for (const Control& control : controls) {
+        if (control.attached == Attached::None)
+            continue;
+        if (control.attached == Attached::Real)
+            edits.push_back(std::make_unique<CExpEqEdit>());
+        else
+            edits.push_back(std::make_unique<CExpEqEditInt>());
+        edits.back()->SubclassDlgItem(static_cast<unsigned>(control.id), &page);
+    }
+    return edits;
 }
 
-void NotifySiblings(CPropertyPage& page, WPARAM code, const double& value)
+void FillLists(const CWnd& page, std::span<const Control> controls)
 {
-    page.QuerySiblings(code, reinterpret_cast<LPARAM>(&value));
+    for (const Control& control : controls)
+        if (control.kind == ControlKind::List)
+            FillList(page, control.id, control.choices);
 }
 
-void ShareSelection(CPropertyPage& page, int id, int& value, WPARAM code)
+void ShowKept(const CWnd& page, const void* record, std::span<const Control> controls)
 {
-    if (StoreSelection(page, id, value))
-        NotifySiblings(page, code, value);
-    page.SetModified();
+    for (const Control& control : controls) {
+        if (!control.isKept)
+            continue;
+        const int value = control.option->Whole(record);
+        const int first = control.option->firstChoice;
+        if (control.kind == ControlKind::List)
+            SelectIndex(page, control.id, value < first ? -1 : value - first);
+        else
+            ShowCheck(page, control.id, control.option->IsOn(value));
+    }
 }
 
-void ShareNewSelection(CPropertyPage& page, int id, int& value, WPARAM code)
+void ShowHelp(const CWnd& window, CPoint position, const char* general, std::span<const Control> controls)
 {
-    if (StoreNewSelection(page, id, value))
-        NotifySiblings(page, code, value);
-    page.SetModified();
+    const char* topic = general;
+    if (const std::optional<INT_PTR> pointedAt = EndHelpMode(window, position))
+        for (const Control& control : controls)
+            if (control.id == *pointedAt && control.topic)
+                topic = control.topic;
+    ShowTopic(window, topic);
 }
+
+} // namespace pelmar

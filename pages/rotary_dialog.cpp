@@ -2,15 +2,16 @@
 
 #include "frame/help_viewer.h"
 #include "frame/module.h"
+#include "pages/topics.h"
 #include "resources/resource.h"
+
+using namespace pelmar;
 
 namespace {
 /// The edits of the axis's coordinates, in its order.
 constexpr int kEdits[] = {IDC_ROTARY_START_X, IDC_ROTARY_START_Y, IDC_ROTARY_START_Z,
                           IDC_ROTARY_END_X,   IDC_ROTARY_END_Y,   IDC_ROTARY_END_Z};
 static_assert(std::size(kEdits) == std::tuple_size_v<AxisPoints>);
-
-constexpr char kTopic[] = "pelmar-_optionspopups_rotary_options_4_axis_options.htm";
 } // namespace
 
 static_assert(int{CDefsRotaryMillDlg::IDD} == IDD_ROTARY);
@@ -92,5 +93,6 @@ void CDefsRotaryMillDlg::OnKillFEndZ()
 
 void CDefsRotaryMillDlg::OnHelp()
 {
-    ShowTopic(*this, ChooseTopic(*this, {}, kTopic, {}));
+    EndHelpMode(*this, {});
+    ShowTopic(*this, kRotaryOptionsTopic);
 }

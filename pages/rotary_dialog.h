@@ -1,7 +1,7 @@
 // The dialog in which the user gives the axis of rotation.
 #pragma once
 
-#include "expr/expression_edits.h"
+#include "PelmarDlgs/expression_edits.h"
 #include "pages/axis_points.h"
 
 /// Edits an axis as two points. It stores nothing: who shows it fills the axis before and reads it afterwards.
@@ -14,7 +14,7 @@ public:
 
     explicit CDefsRotaryMillDlg(CWnd* parent = nullptr);
 
-    AxisPoints m_axis{};
+    pelmar::AxisPoints m_axis{};
 
     INT_PTR DoModal() override;
     BOOL OnInitDialog() override;
@@ -35,6 +35,6 @@ protected:
 private:
     void LeaveEdit(size_t coordinate);
 
-    std::array<CExpEqEdit, std::tuple_size_v<AxisPoints>> m_edits;
+    std::array<CExpEqEdit, std::tuple_size_v<pelmar::AxisPoints>> m_edits;
     bool m_isCancelled = false;
 };

@@ -10,7 +10,7 @@
 
 #include <cstdint>
 
-#include "dialogs/template_defaults.h"
+#include "PelmarDlgs/template_defaults.h"
 
 #ifdef PELMAR_LIBRARY_IMPLEMENTATION
 #define PELMAR_ENTRY_POINT extern "C" __declspec(dllexport)
@@ -29,12 +29,12 @@ PELMAR_ENTRY_POINT int GetSortingOptionStrings(std::int32_t* count, const char* 
 
 /// Fills the record of the operation whose id it bears, with what was last set or, where nothing was, with the values
 /// of a fresh record and the operation's name.
-PELMAR_ENTRY_POINT int GetTemplateDefaults(TemplateDefaults* record);
+PELMAR_ENTRY_POINT int GetTemplateDefaults(pelmar::TemplateDefaults* record);
 
 /// Stores the record of an operation in PELMAR.INI beside the library, where it stays until it is set again. The
 /// operation's name is the library's own and not stored. Texts of over 1,023 characters and such with control
 /// characters are refused, and then nothing is stored; a failure, too, is a file that cannot be written.
-PELMAR_ENTRY_POINT int SetTemplateDefaults(const TemplateDefaults* record);
+PELMAR_ENTRY_POINT int SetTemplateDefaults(const pelmar::TemplateDefaults* record);
 
 /// Lets the user choose a template file for the operation. 1 when one was chosen; its path, of at most
 /// kPelmarPathCapacity characters with the terminator, is then in `path`. The active window of the thread is disabled

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "frame/fixed_text.h"
 #include "module.h"
 
 namespace pelmar {
@@ -31,12 +30,15 @@ constexpr NumberField kNumbers[] = {
     {"ThirdSortKey", &TemplateDefaults::thirdSortKey},
 };
 
+/// Empty where the library's own path is too long for the platform's profile functions.
 std::string File()
 {
     char path[MAX_PATH] = {};
     if (GetModuleFileNameA(Module(), path, MAX_PATH) >= MAX_PATH)
-        return std::string(MAX_PATH, 'x'); // no file can have it
-    return std::string(FolderOf(path)) + "PELMAR.INI";
+        return {};
+    const std::string library(path);
+    const std::string file = library.substr(0, library.rfind('\\') + 1) + "PELMAR.INI";
+    return file.size() < MAX_PATH ? file : "";
 }
 
 std::string SectionOf(const TemplateDefaults& record)
@@ -57,13 +59,21 @@ void ReadDefaults(TemplateDefaults& record)
     const std::string file = File();
     const std::string section = SectionOf(record);
     const TemplateDefaults fresh;
+    if (file.empty()) {
+        for (const TextField& row : kTexts)
+            record.*row.field = fresh.*row.field;
+        for (const NumberField& row : kNumbers)
+            record.*row.field = fresh.*row.field;
+        return;
+    }
     for (const TextField& row : kTexts) {
         char text[kTextCapacity + 2] = {}; // the platform drops the quotes after reading
-        profile::ReadText(section.c_str(), row.key, "", text, file.c_str());
+        GetPrivateProfileStringA(section.c_str(), row.key, "", text, sizeof text, file.c_str());
         record.*row.field = text;
     }
     for (const NumberField& row : kNumbers)
-        record.*row.field = profile::ReadWhole(section.c_str(), row.key, fresh.*row.field, file.c_str());
+        record.*row.field =
+            static_cast<std::int32_t>(GetPrivateProfileIntA(section.c_str(), row.key, fresh.*row.field, file.c_str()));
 }
 
 bool WriteDefaults(const TemplateDefaults& record)
@@ -71,7 +81,7 @@ bool WriteDefaults(const TemplateDefaults& record)
     const std::string file = File();
     const std::string section = SectionOf(record);
     const auto write = [&](const char* key, const std::string& text) {
-        return profile::WriteText(section.c_str(), key, text.c_str(), file.c_str());
+        return !file.empty() && WritePrivateProfileStringA(section.c_str(), key, text.c_str(), file.c_str());
     };
     for (const TextField& row : kTexts)
         if (!CanBeKept(record.*row.field))

@@ -2,7 +2,7 @@
 // in quotes, so that blanks around them and quotes within survive.
 #pragma once
 
-#include "dialogs/template_defaults.h"
+#include "PelmarDlgs/template_defaults.h"
 
 namespace pelmar {
 

@@ -80,7 +80,7 @@ int GetSortingOptionStrings(std::int32_t* count, const char* const** texts)
     return HandOut(SortOptionTexts(), count, texts);
 }
 
-int GetTemplateDefaults(TemplateDefaults* record)
+int GetTemplateDefaults(pelmar::TemplateDefaults* record)
 {
     const Operation* const operation = record ? FindOperation(record->operationId) : nullptr;
     if (!operation)
@@ -90,7 +90,7 @@ int GetTemplateDefaults(TemplateDefaults* record)
     return 1;
 }
 
-int SetTemplateDefaults(const TemplateDefaults* record)
+int SetTemplateDefaults(const pelmar::TemplateDefaults* record)
 {
     return record && FindOperation(record->operationId) && WriteDefaults(*record) ? 1 : 0;
 }

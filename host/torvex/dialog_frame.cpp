@@ -2,6 +2,8 @@
 
 #include <PelmarDlgs.h>
 
+using namespace pelmar;
+
 BEGIN_MESSAGE_MAP(CDialogFrame, CDialog)
     ON_BN_CLICKED(IDC_PAGE_DEFAULTS, &CDialogFrame::OnDefaults)
     ON_COMMAND(ID_HELP, &CDialogFrame::OnHelp)

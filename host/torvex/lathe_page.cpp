@@ -4,6 +4,8 @@
 #include <sstream>
 #include <string>
 
+using namespace pelmar;
+
 IMPLEMENT_DYNAMIC(CLathePage, CDefsLathePage)
 
 namespace {

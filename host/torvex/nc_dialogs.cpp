@@ -5,6 +5,8 @@
 #include "dialog_frame.h"
 #include "resource.h"
 
+using namespace pelmar;
+
 namespace {
 
 template <class Dialog, class Data> Data DataOf(void (Dialog::*setData)(Data*));

@@ -5,6 +5,8 @@
 #include "option_pages.h"
 #include "resource.h"
 
+using namespace pelmar;
+
 IMPLEMENT_DYNAMIC(COptionsSheet, CPropertySheetTVEx)
 
 BEGIN_MESSAGE_MAP(COptionsSheet, CPropertySheetTVEx)

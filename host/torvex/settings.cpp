@@ -9,6 +9,8 @@
 
 #include "resource.h"
 
+using namespace pelmar;
+
 namespace {
 
 constexpr char kSection[] = "Settings";

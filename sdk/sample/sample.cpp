@@ -23,7 +23,7 @@ private:
         C2AxisOptionsInfo& options = *GetLast2xOptions();
         options.vOptions_Restore();
         CDefs2xPage page;
-        page.GetData(kInch);
+        page.GetData(pelmar::kInch);
         CPropertySheetTVEx sheet(L"PelmarDlgs sample");
         sheet.AddPage(&page);
         if (sheet.DoModal() == IDOK)

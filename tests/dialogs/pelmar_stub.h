@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/template_defaults.h"
+#include "PelmarDlgs/template_defaults.h"
+
+using pelmar::TemplateDefaults;
 
 /// What the library does, and what it was asked. Lives with the library.
 struct PelmarScript {

@@ -1,4 +1,4 @@
-#include "expr/evaluator.h"
+#include "PelmarDlgs/evaluator.h"
 
 #include <cmath>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "expr/expression_edits.h"
+#include "PelmarDlgs/expression_edits.h"
 
 #include <limits>
 #include <map>

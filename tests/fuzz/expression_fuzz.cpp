@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "expr/evaluator.h"
+#include "PelmarDlgs/evaluator.h"
 #include "expression_model.h"
 
 namespace {

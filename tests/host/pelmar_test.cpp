@@ -15,6 +15,8 @@
 #include "ui/person.h"
 #include "ui/ui_thread.h"
 
+using pelmar::TemplateDefaults;
+
 namespace {
 
 namespace fs = std::filesystem;

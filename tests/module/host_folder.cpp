@@ -4,6 +4,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "frame/fixed_text.h"
 #include "ui/ui_thread.h"
 
 namespace fs = std::filesystem;

@@ -5,6 +5,8 @@
 
 #include <PelmarDlgs.h>
 
+using namespace pelmar;
+
 /// A folder of its own below the test program's, with the host's settings file, an NC folder, and a core file beside
 /// the program that leads to them. The library is initialised against it.
 class HostFolder {

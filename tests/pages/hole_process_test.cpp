@@ -78,7 +78,7 @@ TEST_F(HoleRecord, TheTemplateIsSavedToTheSystemWideProfileAndRestoredFromTheSet
     options.StartupTemplate = "C:\\Шаблоны 1\\a.tvhpt";
     options.HoleProcessDefs_Save();
     EXPECT_EQ(kFreshFile, host.ReadSettings());
-    EXPECT_EQ(options.StartupTemplate, SystemTemplate::Text());
+    EXPECT_EQ(options.StartupTemplate.GetString(), SystemTemplate::Text());
     EXPECT_EQ("", Restored("").StartupTemplate);
     EXPECT_EQ("D:\\b.tvhpt", Restored("StartupTemplate=D:\\b.tvhpt\r\n").StartupTemplate);
 }
@@ -95,7 +95,7 @@ TEST_F(HoleRecord, AFileWithoutATemplateClearsIt)
 TEST_F(HoleRecord, ATemplateIsCutOffAtTheEndOfItsBufferAndLosesTheQuotesAroundIt)
 {
     const std::string longPath = "C:\\" + std::string(10000, 'x') + ".tvhpt";
-    EXPECT_EQ(longPath.substr(0, 255), Restored("StartupTemplate=" + longPath + "\r\n").StartupTemplate);
+    EXPECT_EQ(longPath.substr(0, 255), Restored("StartupTemplate=" + longPath + "\r\n").StartupTemplate.GetString());
     EXPECT_EQ("C:\\a b.tvhpt", Restored("StartupTemplate=\"C:\\a b.tvhpt\"\r\n").StartupTemplate);
     EXPECT_EQ("C:\\a\"b.tvhpt", Restored("StartupTemplate=C:\\a\"b.tvhpt\r\n").StartupTemplate);
     EXPECT_EQ("", Restored("StartupTemplate=   \r\n").StartupTemplate);
@@ -103,9 +103,9 @@ TEST_F(HoleRecord, ATemplateIsCutOffAtTheEndOfItsBufferAndLosesTheQuotesAroundIt
 
 TEST_F(HoleRecord, ATemplateOfAnyLengthIsSaved)
 {
-    options.StartupTemplate = "C:\\" + std::string(10000, 'x') + ".tvhpt";
+    options.StartupTemplate = ("C:\\" + std::string(10000, 'x') + ".tvhpt").c_str();
     options.HoleProcessDefs_Save();
-    EXPECT_EQ(options.StartupTemplate, SystemTemplate::Text());
+    EXPECT_EQ(options.StartupTemplate.GetString(), SystemTemplate::Text());
     EXPECT_EQ(kFreshFile, host.ReadSettings());
 }
 
@@ -938,7 +938,7 @@ protected:
     void Show(const std::string& startupTemplate)
     {
         Record record;
-        record.StartupTemplate = startupTemplate;
+        record.StartupTemplate = startupTemplate.c_str();
         sheet.reset(); // the page of an earlier one lives as long as it
         page = Fresh(record);
         sheet = std::make_unique<OpenSheet>(std::vector<CPropertyPage*>{page.get()});
@@ -1010,7 +1010,7 @@ TEST_F(HoleTemplate, TheChosenFileBecomesTheTemplateWithItsFullPath)
     EXPECT_TRUE(sheet->IsModified());
     EXPECT_EQ("", GetLastHoleProcessDefsInfo()->StartupTemplate);
     sheet->Ok();
-    EXPECT_EQ(templates + "\\two.tvhpt", GetLastHoleProcessDefsInfo()->StartupTemplate);
+    EXPECT_EQ(templates + "\\two.tvhpt", GetLastHoleProcessDefsInfo()->StartupTemplate.GetString());
 }
 
 TEST_F(HoleTemplate, ItStartsFromTheCurrentTemplate)

@@ -10,6 +10,8 @@
 #include "ui/person.h"
 #include "ui/ui_thread.h"
 
+using namespace pelmar;
+
 /// A page that listens to what its siblings tell each other, and answers as told.
 class SiblingSpy : public CPropertyPage {
 public:

@@ -8,9 +8,9 @@
 
 #include <PelmarDlgs.h>
 
+#include "description/description.h"
 #include "module/host_folder.h"
 #include "option_pages.h"
-#include "pages/description.h"
 #include "pages/page_driver.h"
 #include "settings_text.h"
 
@@ -52,21 +52,22 @@ std::string Expected(const Entry& before, const std::string& hostile, const std:
     return hostile == "-1e-400" ? "0.000000" : before.text; // a number, only too small
 }
 
-FieldDescription DescriptionOf(const Entry& entry)
+/// Null for the template of the holes, which is a text.
+const Option* OptionOf(const Entry& entry)
 {
     for (const RecordDescription& record : DescribeRecords())
-        for (const FieldDescription& field : record.fields)
-            if (record.section == entry.section && field.key == entry.key)
-                return field;
-    return {}; // the template of the holes, which is a text
+        for (const Option& option : record.table.Options())
+            if (record.table.Section() == entry.section && option.key && option.key == entry.key)
+                return &option;
+    return nullptr;
 }
 
 /// Whether the record puts the value in bounds, which may bring another one in bounds with it, or reads it elsewhere.
 /// What it makes of which value is tested with its page.
 bool HasRuleOfItsOwn(const Entry& entry)
 {
-    const FieldDescription field = DescriptionOf(entry);
-    return field.isClamped || !field.readSection.empty();
+    const Option* const option = OptionOf(entry);
+    return option && (option->sanitize || option->readSection);
 }
 
 std::vector<Entry> WithoutRules(const std::vector<Entry>& entries)
@@ -129,15 +130,15 @@ TEST_P(HostileSettings, EachValueYieldsItsFallbackAndTouchesNoOther)
 TEST_P(HostileSettings, EachDefaultYieldsItsFallbackAndTouchesNoOther)
 {
     for (size_t index = 0; index < entries.size(); ++index) {
-        const FieldDescription field = DescriptionOf(entries[index]);
+        const Option* const option = OptionOf(entries[index]);
         // Units of no sense scale all lengths there and back.
-        if (field.key == "Units" || HasRuleOfItsOwn(entries[index]))
+        if (entries[index].key == "Units" || HasRuleOfItsOwn(entries[index]))
             continue;
         for (const std::string& hostile : HostileTexts()) {
             host.WriteDefaults(FileWith(index, hostile));
             record.defaults();
             const std::string expected =
-                field.isInDefaultsFile ? Expected(entries[index], hostile, host.defaults) : entries[index].text;
+                !option || option->inDefaults ? Expected(entries[index], hostile, host.defaults) : entries[index].text;
             EXPECT_EQ(FileWith(index, expected), FileOf(Saved())) << entries[index].key << "=" << hostile.substr(0, 20);
             EXPECT_EQ(FileWith(index, hostile), ReadFile(host.defaults));
         }

@@ -1,5 +1,5 @@
 // Prints the reference of all settings as Markdown, in UTF-8. All of it comes from the tables of the records and pages
-// and from the templates of the library that it runs with.
+// and from the texts of the library that it runs with.
 #include <cstdio>
 #include <stdexcept>
 #include <string>
@@ -9,7 +9,9 @@
 
 #include <PelmarDlgs.h>
 
-#include "pages/description.h"
+#include "description/description.h"
+
+using namespace pelmar;
 
 namespace {
 
@@ -30,68 +32,27 @@ HMODULE Library()
     return GetModuleHandleW(L"PelmarDlgs.dll");
 }
 
-std::string ListText(UINT id)
+std::string ListText(const ChoiceText& choice)
 {
+    if (choice.literal)
+        return choice.literal;
     wchar_t text[256] = {};
-    LoadStringW(Library(), id, text, 256);
+    LoadStringW(Library(), choice.id, text, 256);
     return Utf8(text);
 }
 
-std::wstring TextOf(HWND window)
+/// The caption of a dialog template: the text after menu and class.
+std::string CaptionOf(int id)
 {
-    wchar_t text[256] = {};
-    GetWindowTextW(window, text, 256);
-    return text;
+    const HRSRC found = FindResourceW(Library(), MAKEINTRESOURCEW(id), RT_DIALOG);
+    const auto* word = static_cast<const WORD*>(LockResource(found ? LoadResource(Library(), found) : nullptr));
+    if (!word || word[1] != 0xFFFF)
+        throw std::runtime_error("no extended template " + std::to_string(id));
+    word += 13; // signature, help, styles, count and place
+    for (int field = 0; field < 2; ++field)
+        word += *word == 0xFFFF ? 2 : lstrlenW(reinterpret_cast<const wchar_t*>(word)) + 1;
+    return Utf8(reinterpret_cast<const wchar_t*>(word));
 }
-
-bool IsLabel(HWND control)
-{
-    wchar_t name[32] = {};
-    GetClassNameW(control, name, 32);
-    return lstrcmpiW(name, L"Static") == 0 && !TextOf(control).empty();
-}
-
-/// The label of a control as the page shows it: a button's own text, else the static text before it.
-std::string LabelOf(HWND dialog, int id)
-{
-    HWND control = GetDlgItem(dialog, id);
-    wchar_t name[32] = {};
-    GetClassNameW(control, name, 32);
-    std::wstring label = lstrcmpiW(name, L"Button") == 0 ? TextOf(control) : L"";
-    while (label.empty() && (control = GetWindow(control, GW_HWNDPREV)) != nullptr)
-        if (IsLabel(control))
-            label = TextOf(control);
-    std::erase(label, L'&');
-    if (label.ends_with(L':'))
-        label.pop_back();
-    return Utf8(label);
-}
-
-INT_PTR CALLBACK NoCode(HWND, UINT, WPARAM, LPARAM)
-{
-    return FALSE;
-}
-
-/// A page's template without its code, hidden.
-class Template {
-public:
-    explicit Template(int id)
-        : m_parent(CreateWindowW(L"STATIC", L"", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr)),
-          window(CreateDialogParamW(Library(), MAKEINTRESOURCEW(id), m_parent, NoCode, 0))
-    {
-        if (!window)
-            throw std::runtime_error("no template " + std::to_string(id));
-    }
-    ~Template() { DestroyWindow(m_parent); }
-    Template(const Template&) = delete;
-    Template& operator=(const Template&) = delete;
-
-private:
-    HWND m_parent;
-
-public:
-    const HWND window;
-};
 
 std::string Number(double value)
 {
@@ -100,76 +61,79 @@ std::string Number(double value)
     return text;
 }
 
-std::string Conversion(const FieldDescription& field)
+std::string Conversion(const RecordDescription& record, const Option& option)
 {
-    switch (field.conversion) {
-    case FieldDescription::Conversion::Always:
+    switch (option.scaling) {
+    case Scaling::Always:
         return "always";
-    case FieldDescription::Conversion::WhileConstant:
-        return "while `" + field.typeKey + "` is 0";
-    case FieldDescription::Conversion::Never:
+    case Scaling::WhileConstant:
+        return std::string("while `") + record.TypeOf(option)->key + "` is 0";
+    case Scaling::Never:
         break;
     }
     return "";
 }
 
-std::string AtStart(const FieldDescription& field)
+std::string AtStart(const RecordDescription& record, const Option& option)
 {
-    const auto& [inch, millimetre] = field.atStart;
-    return inch == millimetre || field.key == "Units" ? Number(inch) : Number(inch) + " / " + Number(millimetre);
+    const double inch = record.valueAtStart(option, kInch);
+    const double millimetre = record.valueAtStart(option, kMillimetre);
+    const bool isUnits = option.kind == OptionKind::Units;
+    return inch == millimetre || isUnits ? Number(inch) : Number(inch) + " / " + Number(millimetre);
 }
 
-std::string Values(const FieldDescription& field)
+std::string Bounds(const Range& range)
 {
+    if (range == kAnyReal)
+        return "any";
+    return range.high == kUnbounded ? Number(range.low) + " or more" : Number(range.low) + " to " + Number(range.high);
+}
+
+std::string Values(const Option& option, const Control* control)
+{
+    if (option.kind == OptionKind::Switch)
+        return "off, on";
+    if (option.real)
+        return control ? Bounds(option.range) : "";
     std::string values;
-    if (field.range) {
-        const auto bound = [](double value) { return std::abs(value) == kUnbounded ? "any" : Number(value); };
-        values = bound(field.range->low) + " to " + bound(field.range->high);
-        if (field.range->low == -kUnbounded && field.range->high == kUnbounded)
-            values = "any";
-        else if (field.range->high == kUnbounded)
-            values = Number(field.range->low) + " or more";
-    }
-    if (field.isCheckBox)
-        values = "off, on";
-    int value = field.firstValue;
-    for (const UINT text : field.texts)
+    int value = option.firstChoice;
+    for (const ChoiceText& text : option.choices)
         values += (values.empty() ? "" : ", ") + std::to_string(value++) + " " + ListText(text);
     return values;
 }
 
-std::string Control(const FieldDescription& field, HWND dialog)
-{
-    if (field.controls.empty())
-        return "";
-    const int id = field.controls.front();
-    return LabelOf(dialog, id) + " (" + std::to_string(id) + ")";
-}
-
-std::string Remarks(const FieldDescription& field)
+std::string Remarks(const Option& option)
 {
     std::string remarks;
     const auto add = [&remarks](const std::string& remark) { remarks += (remarks.empty() ? "" : "; ") + remark; };
-    if (field.isClamped)
+    if (option.switchValues.off == 2)
+        add("1 on, 2 off");
+    if (option.switchValues.on == 0)
+        add("0 on, 1 off");
+    if (option.sanitize)
         add("put in bounds when read");
-    if (!field.isInDefaultsFile)
+    if (!option.inDefaults)
         add("not read from the defaults file");
-    if (!field.readSection.empty())
-        add("read from section `" + field.readSection + "`");
+    if (option.readSection)
+        add(std::string("read from section `") + option.readSection + "`");
     return remarks;
 }
 
 void PrintRecord(const RecordDescription& record)
 {
-    const Template page(record.templateId);
-    std::printf("\n## %s\n\n", record.section.c_str());
-    std::printf("Page: \"%s\", template %d.\n\n", Utf8(TextOf(page.window)).c_str(), record.templateId);
-    std::printf("| key | type | scales | at start, inch / mm | edited by | values | remarks |\n");
-    std::printf("|---|---|---|---|---|---|---|\n");
-    for (const FieldDescription& field : record.fields)
-        std::printf("| `%s` | %s | %s | %s | %s | %s | %s |\n", field.key.c_str(), field.isReal ? "real" : "whole",
-                    Conversion(field).c_str(), AtStart(field).c_str(), Control(field, page.window).c_str(),
-                    Values(field).c_str(), Remarks(field).c_str());
+    std::printf("\n## %s\n\n", record.table.Section());
+    std::printf("Page: \"%s\", template %d.\n\n", CaptionOf(record.templateId).c_str(), record.templateId);
+    std::printf("| key | option | type | scales | at start, inch / mm | control | values | remarks |\n");
+    std::printf("|---|---|---|---|---|---|---|---|\n");
+    for (const Option& option : record.table.Options()) {
+        if (!option.key)
+            continue;
+        const Control* const control = record.ControlOf(option);
+        std::printf("| `%s` | %s | %s | %s | %s | %s | %s | %s |\n", option.key, option.label,
+                    option.real ? "real" : "whole", Conversion(record, option).c_str(), AtStart(record, option).c_str(),
+                    control ? std::to_string(control->id).c_str() : "", Values(option, control).c_str(),
+                    Remarks(option).c_str());
+    }
 }
 
 } // namespace

@@ -1,0 +1,4 @@
+// Strings.
+#pragma once
+
+#include <afx.h>

@@ -1,0 +1,77 @@
+#include "description/description.h"
+
+#include <algorithm>
+
+#include "dialogs/setup_sheet_controls.h"
+#include "pages/chamfer_mill_controls.h"
+#include "pages/face_mill_controls.h"
+#include "pages/flat_surface_controls.h"
+#include "pages/groove_mill_controls.h"
+#include "pages/hole_process_controls.h"
+#include "pages/lathe_controls.h"
+#include "pages/milling_2axis_controls.h"
+#include "pages/milling_3axis_controls.h"
+#include "pages/milling_4axis_controls.h"
+#include "pages/milling_5axis_controls.h"
+#include "pages/round_mill_controls.h"
+#include "pages/slot_mill_controls.h"
+#include "pages/wire_edm_controls.h"
+#include "pages/z_finish_controls.h"
+#include "pages/z_rough_controls.h"
+
+namespace pelmar {
+namespace {
+
+template <class Record> double ValueAtStart(const Option& option, long units)
+{
+    Record record;
+    RecordFacts<Record>::table.Convert(&record, units);
+    return option.Value(&record);
+}
+
+template <class Record> constexpr RecordDescription Described(const PageFacts& page)
+{
+    return {RecordFacts<Record>::table, page.templateId, page.controls, ValueAtStart<Record>};
+}
+
+constexpr RecordDescription kRecords[] = {
+    Described<CChamferMillDefsInfo>(kChamferMillPage),
+    Described<CFaceMillDefsInfo>(kFaceMillPage),
+    Described<CGrooveMillDefsInfo>(kGrooveMillPage),
+    Described<HoleProcessDefsInfo>(kHoleProcessPage),
+    Described<C2AxisOptionsInfo>(kMilling2AxisPage),
+    Described<C3AxisOptionsInfo>(kMilling3AxisPage),
+    Described<C4AxisOptionsInfo>(kMilling4AxisPage),
+    Described<C5AxisOptionsInfo>(kMilling5AxisPage),
+    Described<CEDMOptionsInfo>(kWireEdmPage),
+    Described<CFlatSurfaceOptionsInfo>(kFlatSurfacePage),
+    Described<CLatheOptionsInfo>(kLathePage),
+    Described<CSSheetOptionsInfo>(kSetupSheetPage),
+    Described<CZFinishOptionsInfo>(kZFinishPage),
+    Described<CZRoughOptionsInfo>(kZRoughPage),
+    Described<CRoundMillDefsInfo>(kRoundMillPage),
+    Described<CSlotMillDefsInfo>(kSlotMillPage),
+};
+
+} // namespace
+
+const Control* RecordDescription::ControlOf(const Option& option) const
+{
+    const auto found = std::ranges::find(controls, &option, &Control::option);
+    return found == controls.end() ? nullptr : &*found;
+}
+
+const Option* RecordDescription::TypeOf(const Option& option) const
+{
+    if (option.scaling != Scaling::WhileConstant)
+        return nullptr;
+    const auto found = std::ranges::find(table.Options(), option.lengthType, &Option::whole);
+    return found == table.Options().end() ? nullptr : &*found;
+}
+
+std::span<const RecordDescription> DescribeRecords()
+{
+    return kRecords;
+}
+
+} // namespace pelmar

@@ -1,0 +1,29 @@
+// What the tables of records and pages say, put together for documents and tools. The tables stay the only place of a
+// fact. No part of the library: a static library beside it, for whoever describes or checks the settings.
+#pragma once
+
+#include <span>
+
+#include "pages/control.h"
+#include "records/record_table.h"
+
+namespace pelmar {
+
+/// A record with the page or dialog that edits it.
+struct RecordDescription {
+    const RecordTable& table;
+    int templateId;
+    std::span<const Control> controls;
+    /// A record with its built-in values, in these units (0 inch, 1 millimetre): the value of one option.
+    double (*valueAtStart)(const Option& option, long units);
+
+    /// The first control that edits the option; null where none does.
+    const Control* ControlOf(const Option& option) const;
+    /// The option of a length's type; null where the length has none.
+    const Option* TypeOf(const Option& option) const;
+};
+
+/// All records that are kept in the settings file, in the order of their sections.
+std::span<const RecordDescription> DescribeRecords();
+
+} // namespace pelmar
