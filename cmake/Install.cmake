@@ -3,7 +3,7 @@
 include(CMakePackageConfigHelpers)
 
 set(headers include/PelmarDlgs)
-install(FILES include/PelmarDlgs.h host/ControlLib/ControlLib.h host/util/util.h DESTINATION ${headers})
+install(FILES include/PelmarDlgs.h base/ControlLib/ControlLib.h base/util/util.h DESTINATION ${headers})
 foreach(folder frame expr pages dialogs)
     install(DIRECTORY ${folder} DESTINATION ${headers} FILES_MATCHING PATTERN "*.h")
 endforeach()
