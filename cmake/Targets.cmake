@@ -19,10 +19,11 @@ if(PELMAR_TRAP_UNDEFINED)
 endif()
 
 if(WIN32)
-    # The framework layer hands these on to whoever uses the installed SDK.
     set(windows_definitions UNICODE _UNICODE STRICT NOMINMAX WINVER=0x0601 _WIN32_WINNT=0x0601)
     target_compile_definitions(project_options INTERFACE ${windows_definitions})
-    set(CMAKE_RC_FLAGS "-c 65001")
+    if(MINGW)
+        set(CMAKE_RC_FLAGS "-c 65001")
+    endif()
     set(CMAKE_SHARED_LIBRARY_PREFIX "")
     set(CMAKE_IMPORT_LIBRARY_PREFIX "")
     set(CMAKE_SHARED_MODULE_PREFIX "")

@@ -15,7 +15,9 @@ struct File {
 };
 constexpr File kFiles[] = {
     {L"PelmarDlgs.dll", L"Options and defaults of the NC module", VFT_DLL},
+#ifndef _AFXDLL
     {L"afx.dll", L"Framework layer", VFT_DLL},
+#endif
     {L"ControlLib.dll", L"Pages and sheets of the host", VFT_DLL},
     {L"util.dll", L"What the host's libraries share", VFT_DLL},
     {L"ToolLib.dll", L"Tool library of the host", VFT_DLL},

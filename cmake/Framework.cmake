@@ -1,0 +1,30 @@
+# The framework that everything with windows stands on, as the target `framework`: MFC itself, or the layer afx/ that
+# stands in for it. Where there are no windows it offers the layer's strings alone, in their header.
+if(MSVC)
+    set(default_framework mfc)
+else()
+    set(default_framework afx)
+endif()
+set(PELMAR_FRAMEWORK ${default_framework} CACHE STRING "The framework: mfc (needs Visual C++) or afx")
+set_property(CACHE PELMAR_FRAMEWORK PROPERTY STRINGS mfc afx)
+
+add_library(framework INTERFACE)
+if(NOT WIN32)
+    target_include_directories(framework INTERFACE "${PROJECT_SOURCE_DIR}/afx/include")
+elseif(PELMAR_FRAMEWORK STREQUAL afx)
+    add_subdirectory(afx)
+    target_link_libraries(framework INTERFACE afx)
+elseif(PELMAR_FRAMEWORK STREQUAL mfc)
+    find_package(MFC)
+    if(NOT MFC_FOUND)
+        message(FATAL_ERROR "PELMAR_FRAMEWORK is mfc, but this compiler has no MFC. Say -DPELMAR_FRAMEWORK=afx.")
+    endif()
+    set(CMAKE_MFC_FLAG 2) # the shared MFC: host and libraries are parts of one application
+    target_compile_definitions(framework INTERFACE _AFXDLL)
+else()
+    message(FATAL_ERROR "PELMAR_FRAMEWORK is \"${PELMAR_FRAMEWORK}\"; it must be mfc or afx.")
+endif()
+# Whoever uses the installed SDK takes the headers as they were built.
+if(WIN32)
+    target_compile_definitions(framework INTERFACE "$<INSTALL_INTERFACE:${windows_definitions}>")
+endif()
