@@ -488,4 +488,15 @@ TEST_F(ToolHitTest, FindsNothingWithoutAWindow)
     EXPECT_EQ(-1, CWnd().OnToolHitTest(CPoint(), nullptr));
 }
 
+TEST(Rectangle, TellsItsSizeMiddleAndPoints)
+{
+    const CRect rect(10, 20, 40, 60);
+    EXPECT_EQ(30, rect.Width());
+    EXPECT_EQ(40, rect.Height());
+    EXPECT_EQ(25, rect.CenterPoint().x);
+    EXPECT_EQ(40, rect.CenterPoint().y);
+    EXPECT_TRUE(rect.PtInRect(CPoint(10, 20)));
+    EXPECT_FALSE(rect.PtInRect(CPoint(40, 30)));
+}
+
 } // namespace

@@ -1,0 +1,18 @@
+// The system's headers, which the framework brings to its users, and how the framework's classes and those of extension
+// DLLs are exported.
+#pragma once
+
+#include <windows.h>
+
+#ifdef AFX_IMPLEMENTATION
+#define AFX_CLASS __declspec(dllexport)
+#else
+#define AFX_CLASS __declspec(dllimport)
+#endif
+
+// For the public classes of an extension DLL.
+#ifdef _AFXEXT
+#define AFX_EXT_CLASS __declspec(dllexport)
+#else
+#define AFX_EXT_CLASS __declspec(dllimport)
+#endif
