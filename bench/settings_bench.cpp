@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include <windows.h>
+#include <afxwin.h>
 
 #include "bench/stopwatch.h"
 #include "module/host_folder.h"

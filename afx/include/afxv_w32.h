@@ -2,6 +2,11 @@
 // DLLs are exported.
 #pragma once
 
+// The definitions above which <windows.h> is read would else depend on who came first.
+#ifdef _WINDOWS_
+#error WINDOWS.H already included.  MFC apps must not #include <windows.h>
+#endif
+
 #include <windows.h>
 
 #ifdef AFX_IMPLEMENTATION

@@ -30,15 +30,16 @@ constexpr NumberField kNumbers[] = {
     {"ThirdSortKey", &TemplateDefaults::thirdSortKey},
 };
 
-/// Empty where the library's own path is too long for the platform's profile functions.
+/// The settings file beside the library; no name where its path is longer than the platform's profile functions take:
+/// they copy it into a buffer of MAX_PATH characters.
 std::string File()
 {
     char path[MAX_PATH] = {};
     if (GetModuleFileNameA(Module(), path, MAX_PATH) >= MAX_PATH)
         return {};
-    const std::string library(path);
+    const std::string library = path;
     const std::string file = library.substr(0, library.rfind('\\') + 1) + "PELMAR.INI";
-    return file.size() < MAX_PATH ? file : "";
+    return file.size() < MAX_PATH ? file : std::string();
 }
 
 std::string SectionOf(const TemplateDefaults& record)
@@ -52,6 +53,21 @@ bool CanBeKept(const std::string& text)
     return text.size() < kTextCapacity && std::ranges::none_of(text, isControl);
 }
 
+std::string ReadText(const std::string& section, const char* key, const std::string& file)
+{
+    char text[kTextCapacity + 2] = {}; // the platform drops the quotes after reading
+    if (!file.empty())
+        GetPrivateProfileStringA(section.c_str(), key, "", text, DWORD{sizeof text}, file.c_str());
+    return text;
+}
+
+std::int32_t ReadNumber(const std::string& section, const char* key, std::int32_t fallback, const std::string& file)
+{
+    if (file.empty())
+        return fallback;
+    return static_cast<std::int32_t>(GetPrivateProfileIntA(section.c_str(), key, fallback, file.c_str()));
+}
+
 } // namespace
 
 void ReadDefaults(TemplateDefaults& record)
@@ -59,29 +75,20 @@ void ReadDefaults(TemplateDefaults& record)
     const std::string file = File();
     const std::string section = SectionOf(record);
     const TemplateDefaults fresh;
-    if (file.empty()) {
-        for (const TextField& row : kTexts)
-            record.*row.field = fresh.*row.field;
-        for (const NumberField& row : kNumbers)
-            record.*row.field = fresh.*row.field;
-        return;
-    }
-    for (const TextField& row : kTexts) {
-        char text[kTextCapacity + 2] = {}; // the platform drops the quotes after reading
-        GetPrivateProfileStringA(section.c_str(), row.key, "", text, sizeof text, file.c_str());
-        record.*row.field = text;
-    }
+    for (const TextField& row : kTexts)
+        record.*row.field = ReadText(section, row.key, file);
     for (const NumberField& row : kNumbers)
-        record.*row.field =
-            static_cast<std::int32_t>(GetPrivateProfileIntA(section.c_str(), row.key, fresh.*row.field, file.c_str()));
+        record.*row.field = ReadNumber(section, row.key, fresh.*row.field, file);
 }
 
 bool WriteDefaults(const TemplateDefaults& record)
 {
     const std::string file = File();
+    if (file.empty())
+        return false;
     const std::string section = SectionOf(record);
     const auto write = [&](const char* key, const std::string& text) {
-        return !file.empty() && WritePrivateProfileStringA(section.c_str(), key, text.c_str(), file.c_str());
+        return WritePrivateProfileStringA(section.c_str(), key, text.c_str(), file.c_str());
     };
     for (const TextField& row : kTexts)
         if (!CanBeKept(record.*row.field))

@@ -1,6 +1,6 @@
 #include <memory>
 
-#include <commctrl.h>
+#include <afxcmn.h>
 #include <gtest/gtest.h>
 
 #include "dialogs/dialog_driver.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include <commctrl.h>
+#include <afxcmn.h>
 #include <gtest/gtest.h>
 
 #include "dialogs/dialog_driver.h"

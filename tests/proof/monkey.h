@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include <windows.h>
+#include <afxwin.h>
 
 namespace proof {
 
