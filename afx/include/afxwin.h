@@ -86,9 +86,13 @@ template <class Class, class Result, class... Arguments> struct AfxMember<Result
     using Type = Class;
 };
 
-/// Turns a handler of a known signature into the one shape that message maps hold. The type stands beside the handler
-/// because some compilers take equally named classes that are local to different files for one by the handler alone.
-template <class Function, Function handler> struct AfxThunk {
+/// A handler of commands and control notifications.
+using AFX_PMSG = void (CCmdTarget::*)();
+
+/// Turns a handler into the one shape that message maps hold. `Required` is the type that its entry asks for: nothing
+/// but its class may differ. The handler's own type stands beside it because some compilers take equally named classes
+/// that are local to different files for one by the handler alone.
+template <class Required, class Function, Function handler> struct AfxThunk {
     using Class = typename AfxMember<Function>::Type;
 
     static LRESULT Command(CCmdTarget& target, WPARAM, LPARAM)
@@ -120,22 +124,25 @@ template <class Function, Function handler> struct AfxThunk {
     }
 };
 
-#define AFX_THUNK(memberFxn) AfxThunk<decltype(memberFxn), memberFxn>
+/// The cast refuses a handler of any other result or arguments, those that would convert included.
+#define AFX_THUNK(type, memberFxn) AfxThunk<decltype(static_cast<type>(memberFxn)), decltype(memberFxn), memberFxn>
 
-#define ON_CONTROL(code, id, memberFxn) {WM_COMMAND, code, id, &AFX_THUNK(memberFxn)::Command},
+#define ON_CONTROL(code, id, memberFxn) {WM_COMMAND, code, id, &AFX_THUNK(AFX_PMSG, memberFxn)::Command},
 #define ON_COMMAND(id, memberFxn) ON_CONTROL(CN_COMMAND, id, memberFxn)
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
 #define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
 #define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
 #define ON_EN_KILLFOCUS(id, memberFxn) ON_CONTROL(EN_KILLFOCUS, id, memberFxn)
 #define ON_LBN_DBLCLK(id, memberFxn) ON_CONTROL(LBN_DBLCLK, id, memberFxn)
-#define ON_MESSAGE(message, memberFxn) {message, 0, 0, &AFX_THUNK(memberFxn)::Message},
-#define ON_WM_CHAR() {WM_CHAR, 0, 0, &AFX_THUNK(&ThisClass::OnChar)::Key},
-#define ON_WM_CLOSE() {WM_CLOSE, 0, 0, &AFX_THUNK(&ThisClass::OnClose)::Command},
-#define ON_WM_DESTROY() {WM_DESTROY, 0, 0, &AFX_THUNK(&ThisClass::OnDestroy)::Command},
-#define ON_WM_SIZE() {WM_SIZE, 0, 0, &AFX_THUNK(&ThisClass::OnSize)::Size},
-#define ON_WM_NCCREATE() {WM_NCCREATE, 0, 0, &AFX_THUNK(&ThisClass::OnNcCreate)::NcCreate},
-#define ON_WM_HELPINFO() {WM_HELP, 0, 0, &AFX_THUNK(&ThisClass::OnHelpInfo)::HelpInfo},
+
+#define AFX_ON_MESSAGE(message, type, memberFxn, crack) {message, 0, 0, &AFX_THUNK(type, memberFxn)::crack},
+#define ON_MESSAGE(message, memberFxn) AFX_ON_MESSAGE(message, LRESULT (CWnd::*)(WPARAM, LPARAM), memberFxn, Message)
+#define ON_WM_CHAR() AFX_ON_MESSAGE(WM_CHAR, void (CWnd::*)(UINT, UINT, UINT), &ThisClass::OnChar, Key)
+#define ON_WM_CLOSE() AFX_ON_MESSAGE(WM_CLOSE, void (CWnd::*)(), &ThisClass::OnClose, Command)
+#define ON_WM_DESTROY() AFX_ON_MESSAGE(WM_DESTROY, void (CWnd::*)(), &ThisClass::OnDestroy, Command)
+#define ON_WM_SIZE() AFX_ON_MESSAGE(WM_SIZE, void (CWnd::*)(UINT, int, int), &ThisClass::OnSize, Size)
+#define ON_WM_NCCREATE() AFX_ON_MESSAGE(WM_NCCREATE, BOOL (CWnd::*)(LPCREATESTRUCT), &ThisClass::OnNcCreate, NcCreate)
+#define ON_WM_HELPINFO() AFX_ON_MESSAGE(WM_HELP, BOOL (CWnd::*)(HELPINFO*), &ThisClass::OnHelpInfo, HelpInfo)
 
 /// Base of whatever receives commands.
 class AFX_CLASS CCmdTarget : public CObject {
