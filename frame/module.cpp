@@ -1,7 +1,5 @@
 #include "frame/module.h"
 
-#include <new>
-
 #include <afxdllx.h>
 
 #include "PelmarDlgs/library.h"
@@ -43,7 +41,12 @@ CString LoadText(UINT id)
 
 CDynLinkLibrary* InitPelmarDlgsDLL()
 {
-    return new (std::nothrow) CDynLinkLibrary(g_module);
+    try {
+        return new CDynLinkLibrary(g_module);
+    } catch (CMemoryException* outOfMemory) {
+        outOfMemory->Delete();
+        return nullptr;
+    }
 }
 
 int InitializePelmarDlgsDLL()

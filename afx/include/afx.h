@@ -20,13 +20,19 @@ struct AFX_CLASS CRuntimeClass {
     BOOL IsDerivedFrom(const CRuntimeClass* base) const;
 };
 
-/// Root of the framework's classes. Objects are not copied.
+/// Root of the framework's classes. Objects are not copied. Where memory runs out `new` throws CMemoryException; there
+/// is no form of it that answers null.
 class AFX_CLASS CObject {
 public:
     CObject() = default;
     CObject(const CObject&) = delete;
     CObject& operator=(const CObject&) = delete;
     virtual ~CObject() = default;
+
+    void* operator new(size_t size);
+    void* operator new(size_t, void* place) { return place; }
+    void operator delete(void* object);
+    void operator delete(void*, void*) {}
 
     static CRuntimeClass* GetThisClass();
     virtual CRuntimeClass* GetRuntimeClass() const;
@@ -68,10 +74,27 @@ public:                                                                         
 class AFX_CLASS CException : public CObject {
     DECLARE_DYNAMIC(CException)
 public:
+    CException() = default;
+    /// `autoDelete`: whether Delete deletes the object, which was made with `new` then.
+    explicit CException(BOOL autoDelete) : m_autoDelete(autoDelete) {}
+
     /// The text for the user, cut off where it does not fit `capacity` characters. FALSE, and the text stays as it is,
     /// where the exception has none: the user has been told already.
     virtual BOOL GetErrorMessage(LPTSTR text, UINT capacity, UINT* helpContext = nullptr) const;
     void Delete();
+
+private:
+    BOOL m_autoDelete = TRUE;
+};
+
+/// Memory has run out.
+class AFX_CLASS CMemoryException : public CException {
+    DECLARE_DYNAMIC(CMemoryException)
+public:
+    CMemoryException() = default;
+    explicit CMemoryException(BOOL autoDelete) : CException(autoDelete) {}
+
+    BOOL GetErrorMessage(LPTSTR text, UINT capacity, UINT* helpContext = nullptr) const override;
 };
 
 /// The user has already been told; whoever catches it only stops.
@@ -84,5 +107,7 @@ class AFX_CLASS CNotSupportedException : public CException {
     DECLARE_DYNAMIC(CNotSupportedException)
 };
 
+/// Takes no memory.
+[[noreturn]] AFX_CLASS void AfxThrowMemoryException();
 [[noreturn]] AFX_CLASS void AfxThrowUserException();
 [[noreturn]] AFX_CLASS void AfxThrowNotSupportedException();

@@ -1,6 +1,6 @@
 #include <afx.h>
 
-#include <vector>
+#include <new>
 
 CObject* CRuntimeClass::CreateObject() const
 {
@@ -31,7 +31,21 @@ BOOL CObject::IsKindOf(const CRuntimeClass* runtimeClass) const
     return GetRuntimeClass()->IsDerivedFrom(runtimeClass);
 }
 
+void* CObject::operator new(size_t size)
+{
+    void* const memory = ::operator new(size, std::nothrow);
+    if (!memory)
+        AfxThrowMemoryException();
+    return memory;
+}
+
+void CObject::operator delete(void* object)
+{
+    ::operator delete(object);
+}
+
 IMPLEMENT_DYNAMIC(CException, CObject)
+IMPLEMENT_DYNAMIC(CMemoryException, CException)
 IMPLEMENT_DYNAMIC(CUserException, CException)
 IMPLEMENT_DYNAMIC(CNotSupportedException, CException)
 
@@ -42,7 +56,23 @@ BOOL CException::GetErrorMessage(LPTSTR, UINT, UINT*) const
 
 void CException::Delete()
 {
-    delete this;
+    if (m_autoDelete)
+        delete this;
+}
+
+BOOL CMemoryException::GetErrorMessage(LPTSTR text, UINT capacity, UINT*) const
+{
+    lstrcpyn(text, L"Out of memory.", static_cast<int>(capacity));
+    return TRUE;
+}
+
+namespace {
+CMemoryException g_outOfMemory(FALSE);
+}
+
+void AfxThrowMemoryException()
+{
+    throw &g_outOfMemory;
 }
 
 void AfxThrowUserException()

@@ -84,6 +84,72 @@ TEST(RuntimeClass, LeadsFromAPageUpToTheRoot)
         EXPECT_EQ(line[index + 1], line[index]->m_pfnGetBaseClass()) << line[index]->m_lpszClassName;
 }
 
+/// Larger than the memory that a process can have.
+class CTooLarge : public CObject {
+    [[maybe_unused]] char m_bytes[size_t{1} << 47];
+};
+
+TEST(Object, ThrowsAnExceptionOfTheFrameworksWhereMemoryRunsOut)
+{
+    for (int time = 0; time < 2; ++time) {
+        const CObject* object = nullptr;
+        bool isThrown = false;
+        try {
+            object = new CTooLarge;
+        } catch (CMemoryException* outOfMemory) {
+            isThrown = true;
+            outOfMemory->Delete();
+        }
+        EXPECT_TRUE(isThrown);
+        EXPECT_EQ(nullptr, object);
+    }
+}
+
+TEST(Object, IsMadeInAGivenPlace)
+{
+    alignas(CCircle) char place[sizeof(CCircle)];
+    CCircle* const circle = new (place) CCircle;
+    EXPECT_EQ(static_cast<void*>(place), circle);
+    EXPECT_EQ(5, circle->m_radius);
+    circle->~CCircle();
+}
+
+TEST(Exception, TellsThatMemoryRanOut)
+{
+    try {
+        AfxThrowMemoryException();
+    } catch (CException* thrown) {
+        EXPECT_TRUE(thrown->IsKindOf(RUNTIME_CLASS(CMemoryException)));
+        wchar_t text[32] = L"";
+        EXPECT_TRUE(thrown->GetErrorMessage(text, 32));
+        EXPECT_STREQ(L"Out of memory.", text);
+        EXPECT_TRUE(thrown->GetErrorMessage(text, 4));
+        EXPECT_STREQ(L"Out", text);
+        thrown->Delete();
+    }
+}
+
+TEST(Exception, IsNotDeletedWhereItIsNotOnTheHeap)
+{
+    class CCountingException : public CException {
+    public:
+        CCountingException(BOOL autoDelete, int& deleted) : CException(autoDelete), m_deleted(deleted) {}
+        ~CCountingException() override { ++m_deleted; }
+
+    private:
+        int& m_deleted;
+    };
+    int deleted = 0;
+    {
+        CCountingException local(FALSE, deleted);
+        local.Delete();
+        EXPECT_EQ(0, deleted);
+    }
+    deleted = 0;
+    (new CCountingException(TRUE, deleted))->Delete();
+    EXPECT_EQ(1, deleted);
+}
+
 TEST(Exception, IsThrownByPointerAndTellsItsKind)
 {
     try {
