@@ -392,6 +392,8 @@ public:
 
     LPCTSTR m_pszAppName; ///< caption of the application's message boxes
     HINSTANCE m_hInstance;
+    LPTSTR m_lpCmdLine = nullptr;   ///< as AfxWinMain was given it
+    int m_nCmdShow = SW_SHOWNORMAL; ///< the same: how the main window is to be shown at first
     CWnd* m_pMainWnd = nullptr;
     BOOL m_bHelpMode = FALSE; ///< context-help mode: the next Help asks for the control under the pointer
 
@@ -404,8 +406,9 @@ public:
 
 AFX_CLASS CWinApp* AfxGetApp(); ///< null in a process without an application object
 AFX_CLASS CWnd* AfxGetMainWnd();
-/// Runs the application object: InitInstance, Run, ExitInstance.
-AFX_CLASS int AfxWinMain();
+/// Runs the application object: InitInstance, Run, ExitInstance. Takes what the system gave WinMain; an application
+/// with a WinMain of its own gives GetCommandLine() for the command line, which is wide.
+AFX_CLASS int AfxWinMain(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine, int show);
 
 /// Message boxes. Without an icon in `type` they bear the exclamation mark, or the question mark for Yes/No.
 AFX_CLASS int AfxMessageBox(LPCTSTR text, UINT type = MB_OK, UINT helpId = 0);

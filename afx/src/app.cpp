@@ -80,11 +80,14 @@ HWND AfxModalOwner(const CWnd* parent)
     return main && main->m_hWnd ? GetLastActivePopup(main->m_hWnd) : nullptr;
 }
 
-int AfxWinMain()
+int AfxWinMain(HINSTANCE instance, HINSTANCE, LPTSTR commandLine, int show)
 {
     CWinApp* const application = AfxGetApp();
     if (!application)
         return -1;
+    application->m_hInstance = instance;
+    application->m_lpCmdLine = commandLine;
+    application->m_nCmdShow = show;
     if (!application->InitInstance())
         return application->ExitInstance();
     const int result = application->Run();

@@ -35,7 +35,7 @@ CSampleApp g_application;
 
 } // namespace
 
-int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int)
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR, int show)
 {
-    return AfxWinMain();
+    return AfxWinMain(instance, previous, GetCommandLine(), show);
 }

@@ -90,17 +90,34 @@ TEST(Application, IsKnownWhileItExists)
     EXPECT_EQ(nullptr, AfxGetApp());
 }
 
+int RunApplication()
+{
+    return AfxWinMain(GetModuleHandle(nullptr), nullptr, GetCommandLine(), SW_SHOWDEFAULT);
+}
+
 TEST(Application, IsNeededToRun)
 {
-    EXPECT_EQ(-1, AfxWinMain());
+    EXPECT_EQ(-1, RunApplication());
 }
 
 TEST(Application, EndsAtOnceWhereItDoesNotStart)
 {
     CTestApp application;
     application.starts = false;
-    EXPECT_EQ(0, ui::On([] { return AfxWinMain(); })); // as a program does whose one dialog is its start
+    EXPECT_EQ(0, ui::On([] { return RunApplication(); })); // as a program does whose one dialog is its start
     EXPECT_EQ((Log{"init", "exit"}), application.log);
+}
+
+TEST(Application, KnowsHowItWasStarted)
+{
+    CTestApp application;
+    application.starts = false;
+    wchar_t commandLine[] = L"torvex.exe part.tvx";
+    const HINSTANCE instance = GetModuleHandle(L"user32.dll");
+    ui::On([&] { return AfxWinMain(instance, nullptr, commandLine, SW_SHOWMINIMIZED); });
+    EXPECT_EQ(instance, application.m_hInstance);
+    EXPECT_EQ(commandLine, application.m_lpCmdLine);
+    EXPECT_EQ(SW_SHOWMINIMIZED, application.m_nCmdShow);
 }
 
 TEST(Application, TellsWhyItDidNotStart)
@@ -108,7 +125,7 @@ TEST(Application, TellsWhyItDidNotStart)
     CTestApp application;
     application.starts = false;
     application.exitCode = 9;
-    EXPECT_EQ(9, ui::On([] { return AfxWinMain(); }));
+    EXPECT_EQ(9, ui::On([] { return RunApplication(); }));
 }
 
 /// The application's loop runs on the user-interface thread, with a frame and a child window in it.
@@ -123,7 +140,7 @@ protected:
             window = *frame;
             application.m_pMainWnd = frame;
         });
-        ui::UiThread::Get().Start([this] { result = AfxWinMain(); });
+        ui::UiThread::Get().Start([this] { result = RunApplication(); });
         ui::UiThread::Get().Settle();
         application.log.clear();
     }
