@@ -2,16 +2,15 @@
 # gets (cpack): a folder with the reference host, ready to start.
 include(CMakePackageConfigHelpers)
 
-set(headers include/PelmarDlgs)
-install(FILES include/PelmarDlgs.h base/ControlLib/ControlLib.h base/util/util.h DESTINATION ${headers})
-foreach(folder frame expr pages dialogs)
-    install(DIRECTORY ${folder} DESTINATION ${headers} FILES_MATCHING PATTERN "*.h")
-endforeach()
-install(FILES resources/resource.h DESTINATION ${headers}/resources)
+install(FILES include/PelmarDlgs.h DESTINATION include)
+install(DIRECTORY include/PelmarDlgs DESTINATION include)
+# What the library's headers stand on.
+install(FILES base/ControlLib/ControlLib.h DESTINATION include/ControlLib)
+install(FILES base/util/util.h DESTINATION include/util)
 set(libraries PelmarDlgs ControlLib util framework)
 if(PELMAR_FRAMEWORK STREQUAL afx)
     list(APPEND libraries afx)
-    install(DIRECTORY afx/include/ DESTINATION ${headers}/afx)
+    install(DIRECTORY afx/include/ DESTINATION include/afx)
 endif()
 install(TARGETS ${libraries} EXPORT PelmarDlgsTargets
     RUNTIME DESTINATION bin ARCHIVE DESTINATION lib LIBRARY DESTINATION bin)

@@ -62,7 +62,7 @@ struct Control {
     constexpr Control InExchange() const
     {
         if (kind == ControlKind::List && option->firstChoice != 0)
-            throw "the exchange knows positions only";
+            mistake::ExchangeKnowsPositionsOnly();
         Control control = *this;
         control.isExchanged = true;
         return control;
@@ -125,7 +125,8 @@ template <auto Member> consteval const Option* OptionOf()
                 return &option;
         }
     }
-    throw "the record's table has no row for this field";
+    mistake::FieldHasNoOptionRow();
+    return nullptr;
 }
 
 // ---- the rows of a table ----
@@ -145,7 +146,7 @@ template <auto Member> consteval Control Edit(int id)
 template <auto Member> consteval Control List(int id, ChoiceTexts texts = OptionOf<Member>()->choices)
 {
     if (texts.empty())
-        throw "there is nothing to choose from";
+        mistake::NothingToChooseFrom();
     return {.id = id, .kind = ControlKind::List, .option = OptionOf<Member>(), .isKept = true, .choices = texts};
 }
 
@@ -153,7 +154,7 @@ template <auto Member> consteval Control Check(int id)
 {
     const Option* const option = OptionOf<Member>();
     if (option->kind != OptionKind::Switch)
-        throw "the option is not a switch";
+        mistake::OptionIsNoSwitch();
     return {.id = id, .kind = ControlKind::Check, .option = option, .isKept = true};
 }
 
@@ -205,7 +206,8 @@ consteval ControlRow At(std::span<const Control> controls, int id)
     for (const Control& control : controls)
         if (control.id == id)
             return ControlRow(id);
-    throw "the page's table lacks the control";
+    mistake::TableLacksTheControl();
+    return ControlRow(0);
 }
 
 /// A page's table, its template and its topic of the help file.

@@ -11,6 +11,19 @@
 
 namespace pelmar {
 
+/// Mistakes in a table. Nothing of it exists: a table that comes to one of these while it is compiled does not build,
+/// and the compiler names it.
+namespace mistake {
+void FirstRowIsNotTheUnits();
+void RowNamesAFieldOfAnotherRecord();
+void KeyStandsTwice();
+void FieldHasNoOptionRow();
+void NothingToChooseFrom();
+void OptionIsNoSwitch();
+void ExchangeKnowsPositionsOnly();
+void TableLacksTheControl();
+} // namespace mistake
+
 /// Bounds of a value, both allowed. A side without a bound reaches to the largest single-precision value.
 struct Range {
     double low;

@@ -17,14 +17,14 @@ public:
         : m_section(section), m_operation(operation), m_options(options)
     {
         if (options.empty() || options.front().kind != OptionKind::Units)
-            throw "the first row of a record is its units";
+            mistake::FirstRowIsNotTheUnits();
         for (const Option& option : options)
             if (option.record != options.front().record)
-                throw "a row names a field of another record";
+                mistake::RowNamesAFieldOfAnotherRecord();
         for (std::size_t row = 0; row < options.size(); ++row)
             for (std::size_t other = 0; other < row; ++other)
                 if (options[row].key && options[other].key && std::string_view(options[row].key) == options[other].key)
-                    throw "a key stands twice";
+                    mistake::KeyStandsTwice();
     }
 
     constexpr const char* Section() const { return m_section; }
