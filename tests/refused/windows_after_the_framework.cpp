@@ -1,0 +1,4 @@
+// accepted
+#include <afxdlgs.h>
+
+#include <windows.h>
