@@ -71,15 +71,15 @@ protected:                                                                      
         using TheBaseClass = baseClass;                                                                                \
         static const AFX_MSGMAP_ENTRY entries[] = {
 
+// It closes what the other macro has opened, which clang-format does not see.
+// clang-format off
 #define END_MESSAGE_MAP()                                                                                              \
-    {                                                                                                                  \
-        0, 0, 0, nullptr                                                                                               \
-    }                                                                                                                  \
-    }                                                                                                                  \
-    ;                                                                                                                  \
-    static const AFX_MSGMAP map{&TheBaseClass::GetThisMessageMap, entries};                                            \
-    return &map;                                                                                                       \
+            {0, 0, 0, nullptr}                                                                                         \
+        };                                                                                                             \
+        static const AFX_MSGMAP map{&TheBaseClass::GetThisMessageMap, entries};                                        \
+        return &map;                                                                                                   \
     }
+// clang-format on
 
 template <class Function> struct AfxMember;
 template <class Class, class Result, class... Arguments> struct AfxMember<Result (Class::*)(Arguments...)> {

@@ -66,13 +66,11 @@ private:
 };
 
 BEGIN_TEMPLATE_MESSAGE_MAP(CWithDefaults, Dialog, Dialog)
-ON_BN_CLICKED(IDC_PAGE_DEFAULTS, &CWithDefaults::OnDefaults)
-END_MESSAGE_MAP
-()
+    ON_BN_CLICKED(IDC_PAGE_DEFAULTS, &CWithDefaults::OnDefaults)
+END_MESSAGE_MAP()
 
-    /// Shows a dialog that keeps its settings by itself.
-    template <class Dialog>
-    void ShowFramed(CWnd* parent, UINT title)
+/// Shows a dialog that keeps its settings by itself.
+template <class Dialog> void ShowFramed(CWnd* parent, UINT title)
 {
     Dialog dialog;
     CDialogFrame(parent, {dialog, Dialog::IDD, title, [] {}, [] { return true; }, [] {}}).DoModal();
