@@ -35,22 +35,14 @@ template <class Record> constexpr RecordDescription Described(const PageFacts& p
 }
 
 constexpr RecordDescription kRecords[] = {
-    Described<CChamferMillDefsInfo>(kChamferMillPage),
-    Described<CFaceMillDefsInfo>(kFaceMillPage),
-    Described<CGrooveMillDefsInfo>(kGrooveMillPage),
-    Described<HoleProcessDefsInfo>(kHoleProcessPage),
-    Described<C2AxisOptionsInfo>(kMilling2AxisPage),
-    Described<C3AxisOptionsInfo>(kMilling3AxisPage),
-    Described<C4AxisOptionsInfo>(kMilling4AxisPage),
-    Described<C5AxisOptionsInfo>(kMilling5AxisPage),
-    Described<CEDMOptionsInfo>(kWireEdmPage),
-    Described<CFlatSurfaceOptionsInfo>(kFlatSurfacePage),
-    Described<CLatheOptionsInfo>(kLathePage),
-    Described<CSSheetOptionsInfo>(kSetupSheetPage),
-    Described<CZFinishOptionsInfo>(kZFinishPage),
-    Described<CZRoughOptionsInfo>(kZRoughPage),
-    Described<CRoundMillDefsInfo>(kRoundMillPage),
-    Described<CSlotMillDefsInfo>(kSlotMillPage),
+    Described<CChamferMillDefsInfo>(kChamferMillPage), Described<CFaceMillDefsInfo>(kFaceMillPage),
+    Described<CGrooveMillDefsInfo>(kGrooveMillPage),   Described<HoleProcessDefsInfo>(kHoleProcessPage),
+    Described<C2AxisOptionsInfo>(kMilling2AxisPage),   Described<C3AxisOptionsInfo>(kMilling3AxisPage),
+    Described<C4AxisOptionsInfo>(kMilling4AxisPage),   Described<C5AxisOptionsInfo>(kMilling5AxisPage),
+    Described<CEDMOptionsInfo>(kWireEdmPage),          Described<CFlatSurfaceOptionsInfo>(kFlatSurfacePage),
+    Described<CLatheOptionsInfo>(kLathePage),          Described<CSSheetOptionsInfo>(kSetupSheetPage),
+    Described<CZFinishOptionsInfo>(kZFinishPage),      Described<CZRoughOptionsInfo>(kZRoughPage),
+    Described<CRoundMillDefsInfo>(kRoundMillPage),     Described<CSlotMillDefsInfo>(kSlotMillPage),
 };
 
 } // namespace

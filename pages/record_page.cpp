@@ -9,8 +9,7 @@ BEGIN_MESSAGE_MAP(CRecordPage, CExpRegenPropertyPage)
     ON_MESSAGE(kSetDefaultsMessage, &CRecordPage::SetDefaults)
 END_MESSAGE_MAP()
 
-CRecordPage::CRecordPage(int templateId, PageBinding* binding)
-    : CExpRegenPropertyPage(templateId), m_binding(binding)
+CRecordPage::CRecordPage(int templateId, PageBinding* binding) : CExpRegenPropertyPage(templateId), m_binding(binding)
 {
 }
 

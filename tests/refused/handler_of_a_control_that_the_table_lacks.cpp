@@ -1,0 +1,8 @@
+// refused: mistake::TableLacksTheControl()
+#include <afxdlgs.h>
+
+#include "pages/z_finish_controls.h"
+
+using namespace pelmar;
+
+constexpr ControlRow kRow = At(ZFinishTable::controls, IDC_2X_SORT_TYPE);
