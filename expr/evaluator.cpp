@@ -1,9 +1,11 @@
 #include "PelmarDlgs/evaluator.h"
 
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <string_view>
 
 #include "frame/number_text.h"
 
@@ -12,44 +14,17 @@ constexpr size_t kMaxNumberLength = 255;
 constexpr size_t kMaxFieldLength = 255;
 constexpr int kMaxNesting = 256;
 
+/// Whole numbers of so many digits, and the powers of ten up to there, are doubles exactly.
+constexpr size_t kExactDigits = 15;
+constexpr double kPowersOfTen[kExactDigits + 1] = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
 /// Integer mode outlives an evaluation: EvalExpressionInt leaves it on when it finds no token at all.
 bool g_integerMode = false;
-
-enum class Kind {
-    End, ///< nothing more that could be read; no rule accepts it
-    Other,
-    Whole,
-    Real,
-    Plus,
-    Minus,
-    Times,
-    Divide,
-    Remainder,
-    Power,
-    Open,
-    Close,
-    Identifier,
-};
-
-/// A token; the value of an expression is one of kind Whole or Real.
-struct Token {
-    Kind kind = Kind::End;
-    int32_t whole = 0;
-    double real = 0;
-
-    static Token OfWhole(uint32_t bits) { return {Kind::Whole, static_cast<int32_t>(bits), 0}; }
-    static Token OfReal(double value) { return {Kind::Real, 0, value}; }
-    double AsReal() const { return kind == Kind::Whole ? whole : real; }
-};
 
 bool IsDigit(char c)
 {
     return c >= '0' && c <= '9';
-}
-
-bool IsLetter(char c)
-{
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
 /// The value of a hexadecimal digit, -1 for any other character.
@@ -75,72 +50,122 @@ bool Truncate(double value, int32_t& whole)
     return true;
 }
 
-bool CombineWholes(Kind operation, Token& left, const Token& right)
+/// A value in integer mode. (In real mode it is a double.)
+struct Number {
+    Number() = default;
+    explicit Number(int32_t value) : whole(value) {}
+    explicit Number(double value) : isWhole(false), real(value) {}
+    explicit operator double() const { return isWhole ? whole : real; }
+
+    bool isWhole = true;
+    int32_t whole = 0;
+    double real = 0;
+};
+
+void Negate(double& value)
 {
-    const auto a = static_cast<uint32_t>(left.whole);
-    const auto b = static_cast<uint32_t>(right.whole);
-    const bool leavesRange = left.whole == std::numeric_limits<int32_t>::min() && right.whole == -1;
-    switch (operation) {
-    case Kind::Plus:
-        left = Token::OfWhole(a + b);
-        return true;
-    case Kind::Minus:
-        left = Token::OfWhole(a - b);
-        return true;
-    case Kind::Times:
-        left = Token::OfWhole(a * b);
-        return true;
-    case Kind::Divide:
-        if (right.whole == 0 || leavesRange)
-            return false;
-        left.whole /= right.whole;
-        return true;
-    case Kind::Remainder:
-        if (right.whole == 0)
-            return false;
-        left.whole = leavesRange ? 0 : left.whole % right.whole;
-        return true;
-    default:
-        return Truncate(std::pow(left.whole, right.whole), left.whole);
-    }
+    value = -value;
 }
 
-bool CombineReals(Kind operation, Token& left, const Token& right)
+void Negate(Number& value)
 {
-    const double a = left.AsReal();
-    const double b = right.AsReal();
+    value.whole = static_cast<int32_t>(0U - static_cast<uint32_t>(value.whole));
+    value.real = -value.real;
+}
+
+/// Each of these calculates left = left OPERATION right; false where that cannot be done.
+bool Combine(char operation, double& left, double right)
+{
     switch (operation) {
-    case Kind::Plus:
-        left = Token::OfReal(a + b);
+    case '+':
+        left += right;
         return true;
-    case Kind::Minus:
-        left = Token::OfReal(a - b);
+    case '-':
+        left -= right;
         return true;
-    case Kind::Times:
-        left = Token::OfReal(a * b);
+    case '*':
+        left *= right;
         return true;
-    case Kind::Divide:
-        if (b == 0.0)
+    case '/':
+        if (right == 0.0)
             return false;
-        left = Token::OfReal(a / b);
+        left /= right;
         return true;
-    case Kind::Power:
-        left = Token::OfReal(std::pow(a, b));
+    case '^':
+        left = std::pow(left, right);
         return true;
     default:
         return false; // "%" is for whole numbers
     }
 }
 
-bool Combine(Kind operation, Token& left, const Token& right)
+bool Combine(char operation, int32_t& left, int32_t right)
 {
-    const bool wholes = left.kind == Kind::Whole && right.kind == Kind::Whole;
-    return wholes ? CombineWholes(operation, left, right) : CombineReals(operation, left, right);
+    const auto a = static_cast<uint32_t>(left);
+    const auto b = static_cast<uint32_t>(right);
+    const bool leavesRange = left == std::numeric_limits<int32_t>::min() && right == -1;
+    switch (operation) {
+    case '+':
+        left = static_cast<int32_t>(a + b);
+        return true;
+    case '-':
+        left = static_cast<int32_t>(a - b);
+        return true;
+    case '*':
+        left = static_cast<int32_t>(a * b);
+        return true;
+    case '/':
+        if (right == 0 || leavesRange)
+            return false;
+        left /= right;
+        return true;
+    case '%':
+        if (right == 0)
+            return false;
+        left = leavesRange ? 0 : left % right;
+        return true;
+    default:
+        return Truncate(std::pow(left, right), left);
+    }
 }
 
-/// Tokenizer and recursive descent over one text. Each rule starts with its first token read and leaves the token
-/// after it read.
-class Parser {
+bool Combine(char operation, Number& left, const Number& right)
+{
+    if (left.isWhole && right.isWhole)
+        return Combine(operation, left.whole, right.whole);
+    double real = static_cast<double>(left);
+    if (!Combine(operation, real, static_cast<double>(right)))
+        return false;
+    left = Number(real);
+    return true;
+}
+
+/// The double of the digits that a text of at most kExactDigits of them holds.
+double Exact(uint64_t digits)
+{
+    return static_cast<double>(static_cast<int64_t>(digits));
+}
+
+/// What a number without a fraction is worth: `digits` is what its text holds, as far as 64 bits go.
+void SetWhole(double& value, uint64_t digits, std::string_view text)
+{
+    if (text.size() <= kExactDigits) {
+        value = Exact(digits);
+        return;
+    }
+    value = 0;
+    for (const char c : text)
+        value = value * 10 + (c - '0');
+}
+
+void SetWhole(Number& value, uint64_t digits, std::string_view)
+{
+    value = Number(static_cast<int32_t>(digits));
+}
+
+/// Tokenizer and recursive descent over one text, in the mode whose values are of this type. Each rule starts with its
+/// first token read and leaves the token after it read.
+template <class Value> class Parser {
 public:
     explicit Parser(const char* text) : m_next(text) {}
 
@@ -148,16 +173,16 @@ public:
     bool Start()
     {
         Read();
-        return m_token.kind != Kind::End;
+        return m_token != kEnd;
     }
 
-    bool Expression(Token& value)
+    bool Expression(Value& value)
     {
         if (!Term(value))
             return false;
-        while (m_token.kind == Kind::Plus || m_token.kind == Kind::Minus) {
-            Token right;
-            const Kind operation = Take();
+        while (m_token == '+' || m_token == '-') {
+            Value right;
+            const char operation = Take();
             if (!Term(right) || !Combine(operation, value, right))
                 return false;
         }
@@ -165,13 +190,13 @@ public:
     }
 
 private:
-    bool Term(Token& value)
+    bool Term(Value& value)
     {
         if (!Power(value))
             return false;
-        while (m_token.kind == Kind::Times || m_token.kind == Kind::Divide || m_token.kind == Kind::Remainder) {
-            Token right;
-            const Kind operation = Take();
+        while (m_token == '*' || m_token == '/' || m_token == '%') {
+            Value right;
+            const char operation = Take();
             if (!Power(right) || !Combine(operation, value, right))
                 return false;
         }
@@ -179,147 +204,138 @@ private:
     }
 
     /// One "^" at the most: a second one ends the expression.
-    bool Power(Token& value)
+    bool Power(Value& value)
     {
         if (!Signed(value))
             return false;
-        if (m_token.kind != Kind::Power)
+        if (m_token != '^')
             return true;
-        Token right;
+        Value right;
         Take();
-        return Signed(right) && Combine(Kind::Power, value, right);
+        return Signed(right) && Combine('^', value, right);
     }
 
-    bool Signed(Token& value)
+    bool Signed(Value& value)
     {
-        const bool negative = m_token.kind == Kind::Minus;
-        if (negative || m_token.kind == Kind::Plus)
+        const bool negative = m_token == '-';
+        if (negative || m_token == '+')
             Take();
         if (!Primary(value))
             return false;
-        if (negative) {
-            value.whole = static_cast<int32_t>(0U - static_cast<uint32_t>(value.whole));
-            value.real = -value.real;
-        }
+        if (negative)
+            Negate(value);
         return true;
     }
 
-    bool Primary(Token& value)
+    bool Primary(Value& value)
     {
-        if (m_token.kind == Kind::Whole || m_token.kind == Kind::Real) {
-            value = m_token;
+        if (m_token == kNumber) {
+            value = m_number;
             Read();
             return true;
         }
-        if (m_token.kind != Kind::Open || m_nesting == kMaxNesting)
+        if (m_token != '(' || m_nesting == kMaxNesting)
             return false;
         ++m_nesting;
         Take();
-        if (!Expression(value) || m_token.kind != Kind::Close)
+        if (!Expression(value) || m_token != ')')
             return false;
         --m_nesting;
         Read();
         return true;
     }
 
-    Kind Take()
+    char Take()
     {
-        const Kind taken = m_token.kind;
+        const char taken = m_token;
         Read();
         return taken;
     }
 
-    /// Reads the next token. At the end of the text, and at a number that cannot be read, that is the End token.
+    /// Reads the next token. At the end of the text, and at a number that cannot be read, that is the end.
     void Read()
     {
         while (*m_next == ' ' || *m_next == '\t' || *m_next == '\n')
             ++m_next;
-        const char c = *m_next;
-        if (IsDigit(c) || c == '.')
-            ReadNumber();
-        else if (IsLetter(c))
-            ReadIdentifier();
-        else
-            ReadCharacter(c);
-    }
-
-    void ReadCharacter(char c)
-    {
-        constexpr char kOperators[] = "+-*/%^()";
-        if (c == '\0') {
-            m_token.kind = Kind::End;
-            return;
-        }
-        ++m_next;
-        const char* const found = std::strchr(kOperators, c);
-        m_token.kind = found ? static_cast<Kind>(static_cast<int>(Kind::Plus) + (found - kOperators)) : Kind::Other;
-    }
-
-    /// Identifiers have no meaning yet; they only stand in the way of an operand.
-    void ReadIdentifier()
-    {
-        while (IsLetter(*m_next) || IsDigit(*m_next) || *m_next == '_')
+        m_token = *m_next;
+        if (IsDigit(m_token) || m_token == '.')
+            m_token = ReadNumber() ? kNumber : kEnd;
+        else if (m_token != kEnd)
             ++m_next;
-        m_token.kind = Kind::Identifier;
     }
 
-    void ReadNumber()
+    /// False where it is malformed, too long or too large.
+    bool ReadNumber()
     {
-        if (*m_next == '0' && (m_next[1] == 'x' || m_next[1] == 'X')) {
-            ReadHexadecimal();
-            return;
-        }
+        if (*m_next == '0' && (m_next[1] == 'x' || m_next[1] == 'X'))
+            return ReadHexadecimal();
         const char* const start = m_next;
-        uint32_t whole = 0;
-        double real = 0;
-        for (; IsDigit(*m_next); ++m_next) {
-            const int digit = *m_next - '0';
-            whole = whole * 10 + static_cast<uint32_t>(digit);
-            real = real * 10 + digit;
-        }
+        const uint64_t digits = ReadDigits(0);
         if (*m_next == '.')
-            ReadFraction(start);
-        else if (m_next - start > static_cast<ptrdiff_t>(kMaxNumberLength))
-            m_token.kind = Kind::End;
-        else
-            m_token = g_integerMode ? Token::OfWhole(whole) : Token::OfReal(real);
+            return ReadFraction(start, digits);
+        const std::string_view text = TextFrom(start);
+        SetWhole(m_number, digits, text);
+        return text.size() <= kMaxNumberLength;
     }
 
-    void ReadHexadecimal()
+    bool ReadHexadecimal()
     {
         uint32_t whole = 0;
         for (m_next += 2; HexDigit(*m_next) >= 0; ++m_next)
             whole = whole * 16 + static_cast<uint32_t>(HexDigit(*m_next));
-        m_token = Token::OfWhole(whole);
-        if (!g_integerMode)
-            m_token = Token::OfReal(m_token.whole);
+        m_number = Value(static_cast<int32_t>(whole));
+        return true;
     }
 
-    /// From the "." on. An exponent is only known after a fraction: in "1e3" the e starts an identifier.
-    void ReadFraction(const char* start)
+    /// From the "." on; `digits` are those before it.
+    bool ReadFraction(const char* start, uint64_t digits)
     {
-        ++m_next;
-        SkipDigits();
-        if (*m_next == 'e' || *m_next == 'E') {
-            ++m_next;
-            if (*m_next == '+' || *m_next == '-')
-                ++m_next;
-            SkipDigits();
+        const char* const decimals = ++m_next;
+        digits = ReadDigits(digits);
+        const ptrdiff_t count = m_next - decimals;
+        const bool hasExponent = SkipExponent();
+        const std::string_view text = TextFrom(start);
+        const bool isPoint = text.size() == 1;
+        if (!hasExponent && !isPoint && text.size() <= kExactDigits + 1) {
+            m_number = Value(Exact(digits) / kPowersOfTen[count]);
+            return true;
         }
-        const auto length = static_cast<size_t>(m_next - start);
         double value = 0;
-        const bool isNumber = length <= kMaxNumberLength && number_text::Parse({start, length}, value);
-        m_token = isNumber ? Token::OfReal(value) : Token{};
+        if (text.size() > kMaxNumberLength || !number_text::Parse(text, value))
+            return false;
+        m_number = Value(value);
+        return true;
     }
 
-    void SkipDigits()
+    /// An exponent is only known after a fraction: in "1e3" the e starts an identifier.
+    bool SkipExponent()
     {
-        while (IsDigit(*m_next))
+        if (*m_next != 'e' && *m_next != 'E')
+            return false;
+        ++m_next;
+        if (*m_next == '+' || *m_next == '-')
             ++m_next;
+        ReadDigits(0);
+        return true;
     }
+
+    /// Appends the digits that come next to those before.
+    uint64_t ReadDigits(uint64_t digits)
+    {
+        for (; IsDigit(*m_next); ++m_next)
+            digits = digits * 10 + static_cast<uint64_t>(*m_next - '0');
+        return digits;
+    }
+
+    std::string_view TextFrom(const char* start) const { return {start, static_cast<size_t>(m_next - start)}; }
+
+    /// A token is its first character: of an identifier, which has no meaning yet, its first letter.
+    static constexpr char kEnd = '\0';   ///< nothing more that could be read; no rule accepts it
+    static constexpr char kNumber = '0'; ///< any number; m_number is its value
 
     const char* m_next;
-    Token m_token;
+    char m_token = kEnd;
+    Value m_number{};
     int m_nesting = 0;
 };
 
@@ -332,6 +348,25 @@ const char* FieldText(const char* text)
         ++text;
     return strnlen(text, kMaxFieldLength + 1) <= kMaxFieldLength ? text : nullptr;
 }
+
+/// Evaluates in the mode whose values are of this type; integer mode is over then. False where there is no value.
+template <class Value> bool Evaluate(const char* text, Value& value)
+{
+    Parser<Value> parser(text);
+    if (!parser.Start())
+        return false;
+    g_integerMode = false;
+    return parser.Expression(value);
+}
+
+bool EvaluateInIntegerMode(const char* text, double& value)
+{
+    Number number;
+    if (!Evaluate(text, number))
+        return false;
+    value = static_cast<double>(number);
+    return true;
+}
 } // namespace
 
 int EvalExpressionReal(const char* text, double* result)
@@ -339,15 +374,11 @@ int EvalExpressionReal(const char* text, double* result)
     *result = 0.0;
     if (!text)
         return -1;
-    Parser parser(text);
-    if (!parser.Start())
+    double value = 0;
+    const bool evaluated = g_integerMode ? EvaluateInIntegerMode(text, value) : Evaluate(text, value);
+    if (!evaluated || !std::isfinite(value))
         return -1;
-    Token value;
-    const bool parsed = parser.Expression(value);
-    g_integerMode = false;
-    if (!parsed || !std::isfinite(value.AsReal()))
-        return -1;
-    *result = value.AsReal();
+    *result = value;
     return 0;
 }
 
@@ -357,15 +388,10 @@ int EvalExpressionInt(const char* text, int* result)
     if (!text)
         return -1;
     g_integerMode = true;
-    Parser parser(text);
-    if (!parser.Start())
+    Number value;
+    if (!Evaluate(text, value))
         return -1;
-    Token value;
-    const bool parsed = parser.Expression(value);
-    g_integerMode = false;
-    if (!parsed)
-        return -1;
-    if (value.kind == Kind::Real && !Truncate(value.real, value.whole))
+    if (!value.isWhole && !Truncate(value.real, value.whole))
         return -1;
     *result = value.whole;
     return 0;

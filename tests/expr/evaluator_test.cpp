@@ -1,8 +1,10 @@
 #include "PelmarDlgs/evaluator.h"
 
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <random>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -147,6 +149,31 @@ TEST_F(Evaluator, ConvertsFractionsWithTheNearestDouble)
     EXPECT_EQ(9007199254740993.0, Real("9007199254740993.0"));
     EXPECT_EQ(1.7976931348623157e308, Real("1.7976931348623157e308"));
     EXPECT_EQ(5e-324, Real("4.9406564584124654e-324"));
+}
+
+/// Short ones, which most are, are read in another way than long ones.
+TEST_F(Evaluator, ConvertsFractionsOfAnyLengthWithTheNearestDouble)
+{
+    std::mt19937 random;
+    const auto oneOf = [&random](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
+    for (int round = 0; round < 20000; ++round) {
+        std::string text;
+        for (int digits = 1 + oneOf(20); digits > 0; --digits)
+            text += static_cast<char>('0' + oneOf(10));
+        text.insert(static_cast<size_t>(oneOf(static_cast<int>(text.size()) + 1)), ".");
+        double nearest = 0;
+        std::from_chars(text.data(), text.data() + text.size(), nearest);
+        ASSERT_EQ(nearest, Real(text.c_str())) << text;
+    }
+}
+
+TEST_F(Evaluator, RoundsAWholeNumberOfManyDigitsDigitByDigit)
+{
+    EXPECT_EQ(999999999999999.0, Real("999999999999999"));
+    EXPECT_EQ(9007199254740992.0, Real("9007199254740993"));
+    EXPECT_EQ(0x1.61ee6fb8d154ep+56, Real("99622830388368595"));
+    EXPECT_EQ(0x1.b14e0cd5f1ad0p+69, Real("999133036148110045772"));
+    EXPECT_EQ(0x1.efbaca6859df7p+81, Real("4682034176848787065247069"));
 }
 
 TEST_F(Evaluator, ReadsAnExponentOnlyAfterAFraction)
