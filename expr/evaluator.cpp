@@ -7,6 +7,7 @@
 #include <limits>
 #include <string_view>
 
+#include "expr/power.h"
 #include "frame/number_text.h"
 
 namespace {
@@ -92,7 +93,7 @@ bool Combine(char operation, double& left, double right)
         left /= right;
         return true;
     case '^':
-        left = std::pow(left, right);
+        left = PowerOf(left, right);
         return true;
     default:
         return false; // "%" is for whole numbers
@@ -140,7 +141,7 @@ bool Combine(char operation, Number& left, const Number& right)
     return true;
 }
 
-/// The double of the digits that a text of at most kExactDigits of them holds.
+/// The double of up to kExactDigits digits.
 double Exact(uint64_t digits)
 {
     return static_cast<double>(static_cast<int64_t>(digits));
