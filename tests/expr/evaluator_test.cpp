@@ -451,6 +451,9 @@ TEST_F(Evaluator, RoundsAPowerToTheNearestDouble)
         {"2^-1073.5", 0x1p-1074},
         {"2^-1074", 0x1p-1074},
         {"10^-310", 0x1.2688b70e62bp-1030},
+        {"24^-223", 0x0.bbd719e7ad98dp-1022},
+        {"56^-176", 0x0.efc63deac255bp-1022},
+        {"105^-153", 0x0.0697395752f21p-1022},
         {"10^-317.3", 0x1.ef51cp-1055},
         {"10^-323", 0x1p-1073},
         {"0.3^619", 0.0},
@@ -557,6 +560,8 @@ TEST_F(Evaluator, RefusesAZeroDivisor)
     ExpectBothFail("7.0/0");
     ExpectBothFail("0/0");
     ExpectBothFail("7/(3-3)");
+    ExpectBothFail("7/(1/0)");
+    ExpectBothFail("7.0/(1.0/0)");
     ExpectBothFail("7/-0.0");
     ExpectBothFail("7/1.0e-999");
     ExpectBothFail("7%0");
