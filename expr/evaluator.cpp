@@ -182,7 +182,7 @@ public:
         if (!Term(value))
             return false;
         while (m_token == '+' || m_token == '-') {
-            Value right;
+            Value right{};
             const char operation = Take();
             if (!Term(right) || !Combine(operation, value, right))
                 return false;
@@ -196,7 +196,7 @@ private:
         if (!Power(value))
             return false;
         while (m_token == '*' || m_token == '/' || m_token == '%') {
-            Value right;
+            Value right{};
             const char operation = Take();
             if (!Power(right) || !Combine(operation, value, right))
                 return false;
@@ -211,7 +211,7 @@ private:
             return false;
         if (m_token != '^')
             return true;
-        Value right;
+        Value right{};
         Take();
         return Signed(right) && Combine('^', value, right);
     }

@@ -1,11 +1,15 @@
 #include "expression_model.h"
 
+#include <bitset>
 #include <cmath>
 #include <cstdlib>
 #include <optional>
 #include <string>
 #include <variant>
 #include <vector>
+
+/// Of the compiler's library for numbers of 113 bits.
+extern "C" __float128 powq(__float128 base, __float128 exponent);
 
 namespace {
 constexpr size_t kLongestNumber = 255;
@@ -107,6 +111,16 @@ std::optional<Value> CombineWholes(int64_t left, char operation, int64_t right)
     return IfIn32Bits(operation == '/' ? left / right : left % right);
 }
 
+/// To 100 bits first: what is exactly halfway between two doubles must not be taken for one side.
+double Power(double left, double right)
+{
+    const double near = std::pow(left, right); // powq forgets the sign of a zero
+    const __float128 power = powq(left, right);
+    const __float128 rounder = power * 0x1p13;
+    const __float128 rounded = std::isfinite(near) ? power + rounder - rounder : power;
+    return std::copysign(static_cast<double>(rounded), near);
+}
+
 std::optional<Value> CombineReals(double left, char operation, double right)
 {
     if (operation == '+')
@@ -116,7 +130,7 @@ std::optional<Value> CombineReals(double left, char operation, double right)
     if (operation == '*')
         return left * right;
     if (operation == '^')
-        return std::pow(left, right);
+        return Power(left, right);
     if (operation == '%' || right == 0.0)
         return std::nullopt;
     return left / right;
@@ -146,11 +160,11 @@ Value WholeOrReal(int64_t whole, bool integerMode)
 }
 
 /// Only the last eight digits are left in 32 bits.
-Value ValueOfHexadecimal(std::string digits, bool integerMode)
+Value ValueOfHexadecimal(std::string_view digits, bool integerMode)
 {
     if (digits.size() > 8)
-        digits = digits.substr(digits.size() - 8);
-    const int64_t bits = digits.empty() ? 0 : std::stoll(digits, nullptr, 16);
+        digits.remove_prefix(digits.size() - 8);
+    const int64_t bits = digits.empty() ? 0 : std::stoll(std::string(digits), nullptr, 16);
     return WholeOrReal(Wrapped(bits), integerMode);
 }
 
@@ -174,7 +188,7 @@ std::optional<Value> TakeNumber(std::string_view text, size_t& at, bool integerM
     if (text[at] == '0' && StandsAt(text, at + 1, "xX")) {
         const size_t digits = SpanOf(kHexDigits, text, start + 2);
         at = start + 2 + digits;
-        return ValueOfHexadecimal(std::string(text.substr(start + 2, digits)), integerMode);
+        return ValueOfHexadecimal(text.substr(start + 2, digits), integerMode);
     }
     const size_t digits = SpanOf(kDigits, text, at);
     at += digits;
@@ -194,32 +208,33 @@ std::optional<Value> TakeNumber(std::string_view text, size_t& at, bool integerM
     }
     if (digits + decimals == 0 || at - start > kLongestNumber)
         return std::nullopt;
-    const double value = std::strtod(std::string(text.substr(start, at - start)).c_str(), nullptr);
+    char number[kLongestNumber + 1] = {};
+    text.copy(number, at - start, start);
+    const double value = std::strtod(number, nullptr);
     if (std::isinf(value))
         return std::nullopt;
     return value;
 }
 
-/// The items up to the first one that is foreign or cannot be read; a foreign one is the last of them.
-Items ItemsOf(std::string_view text, bool integerMode)
+/// Fills `items` with those up to the first one that is foreign or cannot be read; a foreign one is the last of them.
+void ReadItems(std::string_view text, bool integerMode, Items& items)
 {
-    Items items;
+    items.clear();
     for (size_t at = SpanOf(" \t\n", text, 0); at < text.size(); at += SpanOf(" \t\n", text, at)) {
         const char first = text[at];
         if (IsOneOf(first, kDigits) || first == '.') {
             const std::optional<Value> number = TakeNumber(text, at, integerMode);
             if (!number)
-                return items;
+                return;
             items.push_back({kNumber, *number});
         } else if (IsOneOf(first, kOperatorsAndParentheses)) {
             items.push_back({first, 0});
             ++at;
         } else {
             items.push_back({kForeign, 0});
-            return items;
+            return;
         }
     }
-    return items;
 }
 
 // ---- from items to a value ----
@@ -229,29 +244,29 @@ std::optional<size_t> LengthOfExpression(const Items& items)
 {
     bool needsOperand = true;
     bool hasSign = false;
-    std::vector<bool> hasPower{false}; // of the operand in hand, for each open parenthesis and for the whole
+    size_t nesting = 0;
+    std::bitset<kDeepestNesting + 1> hasPower; // the operand in hand: of the whole, and of each open parenthesis
     for (size_t index = 0;; ++index) {
         const char mark = index < items.size() ? items[index].mark : kForeign;
-        const bool isInParentheses = hasPower.size() > 1;
         if (needsOperand && IsOneOf(mark, "+-") && !hasSign) {
             hasSign = true;
-        } else if (needsOperand && mark == '(' && hasPower.size() <= kDeepestNesting) {
+        } else if (needsOperand && mark == '(' && nesting < kDeepestNesting) {
             hasSign = false;
-            hasPower.push_back(false);
+            hasPower[++nesting] = false;
         } else if (needsOperand && mark == kNumber) {
             hasSign = false;
             needsOperand = false;
         } else if (needsOperand) {
             return std::nullopt;
         } else if (IsOneOf(mark, "+-*/%")) {
-            hasPower.back() = false;
+            hasPower[nesting] = false;
             needsOperand = true;
-        } else if (mark == '^' && !hasPower.back()) {
-            hasPower.back() = true;
+        } else if (mark == '^' && !hasPower[nesting]) {
+            hasPower[nesting] = true;
             needsOperand = true;
-        } else if (mark == ')' && isInParentheses) {
-            hasPower.pop_back();
-        } else if (isInParentheses) {
+        } else if (mark == ')' && nesting > 0) {
+            --nesting;
+        } else if (nesting > 0) {
             return std::nullopt;
         } else {
             return index;
@@ -296,8 +311,8 @@ bool ApplyOperators(Items& items, std::string_view set)
     return true;
 }
 
-/// The value of an expression without parentheses.
-std::optional<Value> ValueOfFlat(Items items)
+/// The value of an expression without parentheses, of which nothing else is left.
+std::optional<Value> ValueOfFlat(Items& items)
 {
     ApplySigns(items);
     for (const std::string_view operators : {"^", "*/%", "+-"}) {
@@ -313,9 +328,10 @@ bool ReplaceParentheses(Items& items, size_t open)
     size_t close = open;
     while (items[close].mark != ')')
         ++close;
+    static Items inner; // keeps its memory
     const auto begin = items.begin();
-    const std::optional<Value> value =
-        ValueOfFlat(Items(begin + static_cast<ptrdiff_t>(open) + 1, begin + static_cast<ptrdiff_t>(close)));
+    inner.assign(begin + static_cast<ptrdiff_t>(open) + 1, begin + static_cast<ptrdiff_t>(close));
+    const std::optional<Value> value = ValueOfFlat(inner);
     if (!value)
         return false;
     items[open] = {kNumber, *value};
@@ -323,7 +339,7 @@ bool ReplaceParentheses(Items& items, size_t open)
     return true;
 }
 
-std::optional<Value> ValueOf(Items items)
+std::optional<Value> ValueOf(Items& items)
 {
     const std::optional<size_t> length = LengthOfExpression(items);
     if (!length)
@@ -336,55 +352,69 @@ std::optional<Value> ValueOf(Items items)
     return ValueOfFlat(items);
 }
 
-// ---- fields ----
-
-std::string_view WithoutLeadingBlanks(std::string_view text)
-{
-    text.remove_prefix(SpanOf(" \t", text, 0));
-    return text;
-}
 } // namespace
 
-int ExpressionModel::EvalExpressionReal(std::string_view text, double* result)
+void ExpressionModel::SetText(std::string_view text)
+{
+    m_text = text;
+    m_outcomes[0].reset();
+    m_outcomes[1].reset();
+}
+
+const ExpressionModel::Outcome& ExpressionModel::OutcomeIn(bool integerMode)
+{
+    std::optional<Outcome>& outcome = m_outcomes[integerMode];
+    if (!outcome) {
+        static Items items; // keeps its memory
+        ReadItems(m_text, integerMode, items);
+        outcome = {!items.empty(), std::nullopt};
+        if (const std::optional<Value> value = ValueOf(items))
+            outcome->value = AsReal(*value);
+    }
+    return *outcome;
+}
+
+int ExpressionModel::EvalExpressionReal(double* result)
 {
     *result = 0.0;
-    const Items items = ItemsOf(text, m_integerMode);
-    if (items.empty())
+    const Outcome& outcome = OutcomeIn(m_integerMode);
+    if (!outcome.hasItems)
         return -1;
     m_integerMode = false;
-    const std::optional<Value> value = ValueOf(items);
-    if (!value || !std::isfinite(AsReal(*value)))
+    if (!outcome.value || !std::isfinite(*outcome.value))
         return -1;
-    *result = AsReal(*value);
+    *result = *outcome.value;
     return 0;
 }
 
-int ExpressionModel::EvalExpressionInt(std::string_view text, int32_t* result)
+int ExpressionModel::EvalExpressionInt(int32_t* result)
 {
     *result = 0;
     m_integerMode = true;
-    const Items items = ItemsOf(text, true);
-    if (items.empty())
+    const Outcome& outcome = OutcomeIn(true);
+    if (!outcome.hasItems)
         return -1;
     m_integerMode = false;
-    const std::optional<Value> value = ValueOf(items);
-    if (!value)
+    if (!outcome.value)
         return -1;
-    const double truncated = std::trunc(AsReal(*value));
+    const double truncated = std::trunc(*outcome.value);
     if (!(truncated >= -2147483648.0 && truncated <= 2147483647.0))
         return -1;
     *result = static_cast<int32_t>(truncated);
     return 0;
 }
 
-int ExpressionModel::EvalFieldReal(std::string_view text, double* result)
+bool ExpressionModel::IsTooLongForField() const
 {
-    const std::string_view field = WithoutLeadingBlanks(text);
-    return field.size() <= kLongestField && EvalExpressionReal(field, result) == 0 ? 1 : 0;
+    return m_text.size() - SpanOf(" \t", m_text, 0) > kLongestField;
 }
 
-int ExpressionModel::EvalFieldInt(std::string_view text, int32_t* result)
+int ExpressionModel::EvalFieldReal(double* result)
 {
-    const std::string_view field = WithoutLeadingBlanks(text);
-    return field.size() <= kLongestField && EvalExpressionInt(field, result) == 0 ? 1 : 0;
+    return !IsTooLongForField() && EvalExpressionReal(result) == 0 ? 1 : 0;
+}
+
+int ExpressionModel::EvalFieldInt(int32_t* result)
+{
+    return !IsTooLongForField() && EvalExpressionInt(result) == 0 ? 1 : 0;
 }
