@@ -14,7 +14,7 @@ import sys
 SKIPPED = re.compile(r"^(using|friend|typedef|enum|static_assert|DECLARE_|template|extern \"C\"|#)")
 FREE = re.compile(r"^PELMAR_API (?P<result>[\w:&*<> ]+?[&* ])(?P<name>\w+)\((?P<arguments>.*)\)$")
 CONSTRUCTOR = re.compile(r"^(explicit )?(?P<name>\w+)\((?P<arguments>.*)\)$")
-METHOD = re.compile(r"^(?P<virtual>virtual )?(?P<result>[\w:&*<> ]+?[&* ])(?P<name>\w+)\((?P<arguments>.*)\)"
+METHOD = re.compile(r"^(virtual |(?P<static>static ))?(?P<result>[\w:&*<> ]+?[&* ])(?P<name>\w+)\((?P<arguments>.*)\)"
                     r"(?P<const> const)?(?P<rest>( override| = 0)*)$")
 
 
@@ -110,7 +110,7 @@ def main():
     if unread:
         sys.exit("not read: " + "; ".join(unread))
 
-    lines = ["#include <cstdio>", "", "#include <PelmarDlgs.h>", "", "namespace {", "", "int g_uses = 0;", "",
+    lines = ["#include <cstdio>", "", "#include <PelmarDlgs.h>", "", "using namespace pelmar;", "", "namespace {", "", "int g_uses = 0;", "",
              "template <class Function> void Use(Function function)", "{",
              "    if (function != nullptr)", "        ++g_uses;", "}", ""]
     calls = []
@@ -119,9 +119,10 @@ def main():
         lines += [f"struct Of_{name} : {owner} {{", "    static void UseAll()", "    {"]
         for method in found:
             arguments = types_of(method["arguments"])
-            result = re.sub(r"^virtual ", "", method["result"]).strip()
+            result = method["result"].strip()
+            pointer = "*" if method["static"] else f"{owner}::*"
             const = " const" if method["const"] else ""
-            lines.append(f"        Use(static_cast<{result} ({owner}::*)({arguments}){const}>"
+            lines.append(f"        Use(static_cast<{result} ({pointer})({arguments}){const}>"
                          f"(&Of_{name}::{method['name']}));")
         lines += ["    }", "};", ""]
         calls.append(f"    Of_{name}::UseAll();")
