@@ -92,27 +92,35 @@ Wide Log(double value)
     return kLogOf2 * exponent + s * (sum * square + 1) * 2;
 }
 
-/// `value`, which is around 1 to 2, times two to the power of `exponent`, rounded once. What is by a hair not halfway
-/// between two doubles is taken to be, because exact powers are.
-double Rounded(Wide value, int exponent)
+/// (1 + `tail`) times two to the power of `exponent`, rounded once. What is as near as `hair` to halfway between two
+/// doubles is taken to be there, because exact powers are, and goes to the even one.
+double Rounded(Wide tail, int exponent, double hair)
 {
     const double leastOfFullPrecision = std::ldexp(std::numeric_limits<double>::min(), -exponent);
-    const double shift = value.high < leastOfFullPrecision ? leastOfFullPrecision : 0; // moves what is lost out
-    const Wide shifted = value + shift;
-    constexpr double kHair = 0x1.8p-30; // added, it rounds to 82 binary places
-    const double low = shifted.low + kHair - kHair;
-    return std::ldexp(shifted.high + low - shift, exponent);
+    const double shift = 1 + tail.high < leastOfFullPrecision ? leastOfFullPrecision : 0; // moves what is lost out
+    const Wide start = ExactSum(1, shift);
+    const Wide sum = ExactSum(start.high, tail.high);
+    const Wide rest = Wide(start.low) + sum.low + tail.low;
+    const double next = std::nextafter(sum.high, rest.high < 0 ? 0 : std::numeric_limits<double>::infinity());
+    const double half = (next - sum.high) / 2;
+    const double beyondHalf = (rest + -half).high;
+    double nearest = (beyondHalf > 0) == (half > 0) ? next : sum.high;
+    if (std::abs(beyondHalf) <= hair)
+        nearest = sum.high + half;
+    return std::ldexp(nearest - shift, exponent);
 }
 
 /// e to the power of `value`, which is at most 1000 in size.
 double Exp(Wide value)
 {
-    const double exponent = std::floor(value.high / kLogOf2.high);
+    const double exponent = std::round(value.high / kLogOf2.high);
     const Wide rest = value + kLogOf2 * -exponent;
+    // exp(x) = 1 + x (1 + x/2 (1 + x/3 (1 + ...))). Here x is at most 0.347 in size.
     Wide sum = 1;
-    for (size_t n = 29; n > 0; --n)
+    for (size_t n = 24; n > 1; --n)
         sum = sum * (rest * kReciprocals[n]) + 1;
-    return Rounded(sum, static_cast<int>(exponent));
+    const double hair = std::abs(value.high) * 0x1p-98; // the errors stay below a thirtieth of it
+    return Rounded(rest * sum, static_cast<int>(exponent), hair);
 }
 } // namespace
 

@@ -433,7 +433,12 @@ TEST_F(Evaluator, RoundsAPowerToTheNearestDouble)
         {"651^-1.5", 0x1.f9080c9c5d4a2p-15},
         {"384^0.25", 0x1.1b4f819c2ff81p+2},
         {"112^1.5", 0x1.2852fb49899cdp+10},
-        // near one, with large exponents
+        // near one: halfway but for the square of the difference, and with large exponents
+        {"0.99999999999992^-1", 0x1.0000000000169p+0},
+        {"1.0000000000000184^1.5", 0x1.000000000007dp+0},
+        {"0.9999999999999999^0.5", 0x1.fffffffffffffp-1},
+        {"0.9999999999999999^-1", 0x1.0000000000001p+0},
+        {"0.9999999999999999^-217", 0x1.000000000006dp+0},
         {"1.000001^123456789", 0x1.145c50da9b0bp+178},
         {"0.999999^-123456789", 0x1.14650d3c82aaep+178},
         {"1.0000000000000002^3.0e18", 0x1.0502174a9bef1p+961},

@@ -111,12 +111,12 @@ std::optional<Value> CombineWholes(int64_t left, char operation, int64_t right)
     return IfIn32Bits(operation == '/' ? left / right : left % right);
 }
 
-/// To 100 bits first: what is exactly halfway between two doubles must not be taken for one side.
+/// To 110 bits first: what is exactly halfway between two doubles must not be taken for one side.
 double Power(double left, double right)
 {
     const double near = std::pow(left, right); // powq forgets the sign of a zero
     const __float128 power = powq(left, right);
-    const __float128 rounder = power * 0x1p13;
+    const __float128 rounder = power * 0x1p3;
     const __float128 rounded = std::isfinite(near) ? power + rounder - rounder : power;
     return std::copysign(static_cast<double>(rounded), near);
 }
