@@ -86,7 +86,9 @@ void LocateHelpFile()
     const std::string_view folder = found == std::string_view::npos ? "" : path.view().substr(0, found);
     HelpFileText file;
     file.Assign(folder, "\\Help\\TORVEX.chm");
-    g_locations.helpFile = file;
+    // Threads come and go while others read it: what is the same is not written again.
+    if (file.view() != g_locations.helpFile.view())
+        g_locations.helpFile = file;
 }
 
 void LocateSettings()

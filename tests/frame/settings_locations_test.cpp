@@ -1,3 +1,6 @@
+#include <atomic>
+#include <thread>
+
 #include <gtest/gtest.h>
 
 #include "module/host_folder.h"
@@ -90,6 +93,24 @@ TEST_F(SettingsLocation, TheHelpFileStandsBesideAHostOfTheRightNameAndOnTheCurre
     const size_t found = program.find("\\TORVEX.EXE");
     const std::string folder = found == std::string::npos ? "" : program.substr(0, found);
     EXPECT_EQ(folder + "\\Help\\TORVEX.chm", Locations().helpFile.view());
+}
+
+TEST_F(SettingsLocation, TheHelpFileIsReadWholeWhileThreadsComeAndGo)
+{
+    const std::string whole(Locations().helpFile.view());
+    std::atomic<bool> isOver = false;
+    std::atomic<int> read = 0;
+    std::atomic<int> different = 0;
+    std::thread reader([&] {
+        for (; !isOver; ++read)
+            different += whole != Locations().helpFile.c_str();
+    });
+    for (int come = 0; come < 600; ++come)
+        std::thread([] {}).join();
+    isOver = true;
+    reader.join();
+    EXPECT_GT(read, 0);
+    EXPECT_EQ(0, different) << "of " << read;
 }
 
 TEST_F(SettingsLocation, NoValueHoweverLongLeavesItsBuffer)
