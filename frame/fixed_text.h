@@ -6,6 +6,8 @@
 #include <cstring>
 #include <string_view>
 
+#include <afx.h>
+
 #include "frame/profile.h"
 
 namespace pelmar {

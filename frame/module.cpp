@@ -5,6 +5,7 @@
 #include "PelmarDlgs/library.h"
 #include "PelmarDlgs/settings_locations.h"
 #include "frame/locate.h"
+#include "frame/settings_journal.h"
 #include "frame/tool_library.h"
 
 namespace {
@@ -57,5 +58,6 @@ int InitializePelmarDlgsDLL()
 
 void FinalizePelmarDlgsDLL()
 {
+    pelmar::Journal().DropAll();
     pelmar::UnloadToolLibrary();
 }

@@ -5,6 +5,7 @@
 #include "PelmarDlgs/library.h"
 #include "frame/fixed_text.h"
 #include "frame/locate.h"
+#include "frame/profile.h"
 
 namespace pelmar {
 namespace {

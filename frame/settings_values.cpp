@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cmath>
 
+#include <afx.h>
+
 #include "PelmarDlgs/settings_locations.h"
 #include "frame/number_text.h"
 #include "frame/profile.h"

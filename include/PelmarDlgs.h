@@ -53,5 +53,6 @@
 #include "PelmarDlgs/records/wire_edm.h"
 #include "PelmarDlgs/records/z_finish.h"
 #include "PelmarDlgs/records/z_rough.h"
+#include "PelmarDlgs/saving.h"
 #include "PelmarDlgs/settings_locations.h"
 #include "PelmarDlgs/settings_values.h"

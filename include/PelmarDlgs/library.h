@@ -19,7 +19,8 @@ PELMAR_API CDynLinkLibrary* InitPelmarDlgsDLL();
 /// A host that changes its settings files calls it again.
 PELMAR_API int InitializePelmarDlgsDLL();
 
-/// Closes and frees the tool library, where one is loaded. Call it before unloading the library.
+/// Closes and frees the tool library, where one is loaded, and drops what has been gathered for a save and not been
+/// committed. Call it before unloading the library.
 PELMAR_API void FinalizePelmarDlgsDLL();
 
 /// Points the machine-simulation start-up file at `folder`: its last piece, a file name, moves into a folder of that

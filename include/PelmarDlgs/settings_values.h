@@ -20,8 +20,8 @@ constexpr int UnitsOfHost(int units)
     return units == 1 ? kMillimetre : kInch;
 }
 
-/// Write to the settings file: a whole number as "%d", a real as "%f". False when the platform refuses; the value in
-/// memory is not affected.
+/// Write to the settings file: a whole number as "%d", a real as "%f". False where that cannot be saved; within an
+/// open step (saving.h) it is noted for the step, and true. The value in memory is not affected.
 PELMAR_API bool WriteWhole(const char* section, const char* key, int value);
 PELMAR_API bool WriteReal(const char* section, const char* key, double value);
 
