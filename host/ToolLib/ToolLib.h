@@ -58,7 +58,11 @@ struct ToolLibSpeedFeed {
 };
 
 // ---- choosing: a modal list of the tools of the library's current units, with `currentId` selected. 1 when the user
-// chose a tool, which is then in `tool`; 0 when the user cancelled. `reserved` is ignored; pass 0. ----
+// chose a tool, which is then in `tool`; 0 when the user cancelled. `reserved` is ignored; pass 0.
+//
+// Where the host has loaded PelmarDlgs.dll, tools are listed in the order that PelmarUI_nGetToolListSortBy tells, and a
+// list with ball mills has a box that shows these only. The box shows PelmarUI_nGetEnableOnlyBallTool and tells every
+// click to PelmarUI_nSetEnableOnlyBallTool. Without it tools are listed by diameter, and there is no box. ----
 
 TOOLLIB_API int ToolLib_nGetMillTool(int currentId, ToolLibTool* tool, int reserved);
 TOOLLIB_API int ToolLib_nGetDrillTool(int currentId, ToolLibTool* tool, int reserved);

@@ -9,9 +9,6 @@ namespace {
 
 HINSTANCE g_module = nullptr;
 
-/// The middle column takes what the others leave.
-constexpr std::array kColumnPercent{15, 55, 30};
-
 /// One showing of a list.
 class ChooseDialog {
 public:
@@ -19,6 +16,7 @@ public:
 
     std::optional<size_t> Show()
     {
+        m_wanted = m_list.selected;
         const INT_PTR result = DialogBoxParamW(g_module, MAKEINTRESOURCEW(IDD_CHOOSE), GetActiveWindow(), Procedure,
                                                reinterpret_cast<LPARAM>(this));
         return result == IDOK ? m_chosen : std::nullopt;
@@ -47,52 +45,87 @@ private:
     {
         SetWindowTextW(m_window, m_list.title.c_str());
         ListView_SetExtendedListViewStyle(List(), LVS_EX_FULLROWSELECT);
+        ShowFilter();
         AddColumns();
-        for (size_t row = 0; row < m_list.rows.size(); ++row)
-            AddRow(static_cast<int>(row));
-        if (m_list.selected)
-            Select(static_cast<int>(*m_list.selected));
-        EnableOk();
+        Fill();
         SetFocus(List());
         return FALSE; // the focus is set
     }
+
+    void ShowFilter()
+    {
+        if (!m_list.filter)
+            return;
+        const HWND box = GetDlgItem(m_window, IDC_CHOOSE_FILTER);
+        SetWindowTextW(box, m_list.filter->text.c_str());
+        CheckDlgButton(m_window, IDC_CHOOSE_FILTER, m_list.filter->isOn ? BST_CHECKED : BST_UNCHECKED);
+        ShowWindow(box, SW_SHOW);
+    }
+
+    bool IsFilterOn() const { return IsDlgButtonChecked(m_window, IDC_CHOOSE_FILTER) == BST_CHECKED; }
 
     void AddColumns()
     {
         RECT client{};
         GetClientRect(List(), &client);
         const int width = static_cast<int>(client.right) - GetSystemMetrics(SM_CXVSCROLL);
-        for (size_t column = 0; column < ChooseList::kColumns; ++column) {
+        for (size_t column = 0; column < m_list.columns.size(); ++column) {
             LVCOLUMNW item{};
             item.mask = LVCF_TEXT | LVCF_WIDTH;
-            item.cx = width * kColumnPercent[column] / 100;
-            item.pszText = const_cast<LPWSTR>(m_list.headings[column].c_str());
+            item.cx = width * m_list.columns[column].percent / 100;
+            item.pszText = const_cast<LPWSTR>(m_list.columns[column].heading.c_str());
             SendMessageW(List(), LVM_INSERTCOLUMNW, column, reinterpret_cast<LPARAM>(&item));
         }
     }
 
-    void AddRow(int row)
+    /// Shows the rows that the filter lets through. What was selected stays so, and is so again when it comes back.
+    void Fill()
+    {
+        m_isFilling = true;
+        const bool filtered = IsFilterOn();
+        SendMessageW(List(), WM_SETREDRAW, FALSE, 0);
+        ListView_DeleteAllItems(List());
+        for (size_t row = 0; row < m_list.rows.size(); ++row)
+            if (!filtered || m_list.rows[row].passesFilter)
+                Append(row);
+        SendMessageW(List(), WM_SETREDRAW, TRUE, 0);
+        m_isFilling = false;
+        EnableOk();
+    }
+
+    void Append(size_t row)
     {
         LVITEMW item{};
-        item.mask = LVIF_TEXT;
-        item.iItem = row;
-        const ChooseList::Texts& texts = m_list.rows[static_cast<size_t>(row)];
+        item.iItem = ListView_GetItemCount(List());
+        const std::vector<std::wstring>& texts = m_list.rows[row].texts;
         for (size_t column = 0; column < texts.size(); ++column) {
+            item.mask = column == 0 ? LVIF_TEXT | LVIF_PARAM : LVIF_TEXT;
+            item.lParam = static_cast<LPARAM>(row);
             item.iSubItem = static_cast<int>(column);
             item.pszText = const_cast<LPWSTR>(texts[column].c_str());
             SendMessageW(List(), column == 0 ? LVM_INSERTITEMW : LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
         }
+        if (row == m_wanted)
+            Select(item.iItem);
     }
 
-    void Select(int row)
+    void Select(int item)
     {
-        ListView_SetItemState(List(), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-        ListView_EnsureVisible(List(), row, FALSE);
+        ListView_SetItemState(List(), item, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        ListView_EnsureVisible(List(), item, FALSE);
     }
 
-    int SelectedRow() const { return ListView_GetNextItem(List(), -1, LVNI_SELECTED); }
+    std::optional<size_t> SelectedRow() const
+    {
+        LVITEMW item{};
+        item.mask = LVIF_PARAM;
+        item.iItem = ListView_GetNextItem(List(), -1, LVNI_SELECTED);
+        if (item.iItem < 0 || !SendMessageW(List(), LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)))
+            return std::nullopt;
+        return static_cast<size_t>(item.lParam);
+    }
 
-    void EnableOk() { EnableWindow(GetDlgItem(m_window, IDOK), SelectedRow() >= 0); }
+    void EnableOk() { EnableWindow(GetDlgItem(m_window, IDOK), SelectedRow().has_value()); }
 
     BOOL OnCommand(int id)
     {
@@ -100,6 +133,8 @@ private:
             Accept();
         else if (id == IDCANCEL)
             EndDialog(m_window, IDCANCEL);
+        else if (id == IDC_CHOOSE_FILTER)
+            TurnFilter();
         else
             return FALSE;
         return TRUE;
@@ -111,23 +146,36 @@ private:
             return FALSE;
         if (notice.code == static_cast<UINT>(NM_DBLCLK))
             Accept();
-        if (notice.code == static_cast<UINT>(LVN_ITEMCHANGED))
-            EnableOk();
+        if (notice.code == static_cast<UINT>(LVN_ITEMCHANGED) && !m_isFilling)
+            TakeSelection();
         return FALSE;
+    }
+
+    void TakeSelection()
+    {
+        if (const std::optional<size_t> row = SelectedRow())
+            m_wanted = row;
+        EnableOk();
+    }
+
+    void TurnFilter()
+    {
+        m_list.filter->onTurn(IsFilterOn());
+        Fill();
     }
 
     void Accept()
     {
-        const int row = SelectedRow();
-        if (row < 0)
-            return;
-        m_chosen = static_cast<size_t>(row);
-        EndDialog(m_window, IDOK);
+        m_chosen = SelectedRow();
+        if (m_chosen)
+            EndDialog(m_window, IDOK);
     }
 
     const ChooseList& m_list;
     HWND m_window = nullptr;
+    std::optional<size_t> m_wanted; ///< the row to be selected, shown or not
     std::optional<size_t> m_chosen;
+    bool m_isFilling = false;
 };
 
 } // namespace

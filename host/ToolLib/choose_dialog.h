@@ -1,7 +1,7 @@
 // The modal list from which the user chooses a tool or a material.
 #pragma once
 
-#include <array>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,13 +11,26 @@
 namespace toollib {
 
 struct ChooseList {
-    static constexpr size_t kColumns = 3;
-    using Texts = std::array<std::wstring, kColumns>;
+    struct Column {
+        std::wstring heading;
+        int percent; ///< of the list's width
+    };
+    struct Row {
+        std::vector<std::wstring> texts; ///< one per column
+        bool passesFilter = true;
+    };
+    /// A box below the list that leaves out the rows that do not pass.
+    struct Filter {
+        std::wstring text;
+        bool isOn = false;                     ///< when the list opens
+        std::function<void(bool isOn)> onTurn; ///< at every click
+    };
 
     std::wstring title;
-    Texts headings;
-    std::vector<Texts> rows;
+    std::vector<Column> columns;
+    std::vector<Row> rows;
     std::optional<size_t> selected; ///< in front when the list opens, if any
+    std::optional<Filter> filter;
 };
 
 /// Shows the list until the user chooses a row (double-click or OK) or cancels. The active window of the thread is

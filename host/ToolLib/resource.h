@@ -5,6 +5,7 @@
 
 #define IDD_CHOOSE 100
 #define IDC_CHOOSE_LIST 101
+#define IDC_CHOOSE_FILTER 102
 
 #define IDS_TITLE_FORMAT 200 // %1 list, %2 units
 #define IDS_INCH 201
@@ -15,6 +16,9 @@
 #define IDS_COLUMN_MATERIAL 206
 #define IDS_MATERIALS_TITLE 207
 #define IDS_COLUMN_GROUP 208
+#define IDS_COLUMN_DATABASE_NUMBER 209
+#define IDS_COLUMN_TOOL_NUMBER 210
+#define IDS_ONLY_BALL_TOOLS 211
 
 // Kinds of tools: base + ToolLibKind
 #define IDS_KIND_BASE 220

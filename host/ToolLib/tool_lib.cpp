@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "choose_dialog.h"
+#include "list_options.h"
 #include "records.h"
 #include "resource.h"
 #include "speeds.h"
@@ -39,17 +40,40 @@ std::wstring LengthText(double length)
     return text;
 }
 
+/// In the order that the user has chosen; tools that are equal in it by their number in the database.
+bool ComesBefore(SortBy order, const Tool& first, const Tool& second)
+{
+    if (order == SortBy::Diameter && first.diameter != second.diameter)
+        return first.diameter < second.diameter;
+    if (order == SortBy::ToolNumber && first.number != second.number)
+        return first.number < second.number;
+    return first.id < second.id;
+}
+
+bool IsBallMill(const Tool& tool)
+{
+    return tool.kind == TOOLLIB_MILL && tool.shape == Shape::Ball;
+}
+
 ChooseList ListOf(UINT titleId, const std::vector<const Tool*>& tools, int currentId)
 {
     ChooseList list;
     const UINT unitsId = g_units == kInch ? IDS_INCH : IDS_MILLIMETRE;
     list.title = Replace(LoadText(IDS_TITLE_FORMAT), LoadText(titleId), LoadText(unitsId));
-    list.headings = {LoadText(IDS_COLUMN_ID), LoadText(IDS_COLUMN_DESCRIPTION), LoadText(IDS_COLUMN_DIAMETER)};
+    list.columns = {{LoadText(IDS_COLUMN_DATABASE_NUMBER), 17},
+                    {LoadText(IDS_COLUMN_DESCRIPTION), 49},
+                    {LoadText(IDS_COLUMN_DIAMETER), 17},
+                    {LoadText(IDS_COLUMN_TOOL_NUMBER), 17}};
     for (const Tool* tool : tools) {
         if (tool->id == currentId)
             list.selected = list.rows.size();
-        list.rows.push_back({std::to_wstring(tool->id), tool->description, LengthText(tool->diameter)});
+        list.rows.push_back({{std::to_wstring(tool->id), tool->description, LengthText(tool->diameter),
+                              std::to_wstring(tool->number)},
+                             IsBallMill(*tool)});
     }
+    // Among drills or turning tools nobody looks for ball tools.
+    if (HasBallToolSwitch() && std::ranges::any_of(list.rows, &ChooseList::Row::passesFilter))
+        list.filter = {LoadText(IDS_ONLY_BALL_TOOLS), OnlyBallTools(), SetOnlyBallTools};
     return list;
 }
 
@@ -62,6 +86,9 @@ template <class Belongs> int ChooseTool(UINT titleId, int currentId, ToolLibTool
     for (const Tool& tool : Tools())
         if (tool.units == g_units && belongs(tool))
             tools.push_back(&tool);
+    std::ranges::sort(tools, [order = SortOrder()](const Tool* first, const Tool* second) {
+        return ComesBefore(order, *first, *second);
+    });
     const std::optional<size_t> row = Choose(ListOf(titleId, tools, currentId));
     if (!row)
         return 0;
@@ -102,7 +129,8 @@ int ChooseMaterial(int group, int currentId, ToolLibMaterial* record)
         return 0;
     ChooseList list;
     list.title = LoadText(IDS_MATERIALS_TITLE);
-    list.headings = {LoadText(IDS_COLUMN_ID), LoadText(IDS_COLUMN_MATERIAL), LoadText(IDS_COLUMN_GROUP)};
+    list.columns = {
+        {LoadText(IDS_COLUMN_ID), 15}, {LoadText(IDS_COLUMN_MATERIAL), 55}, {LoadText(IDS_COLUMN_GROUP), 30}};
     std::vector<const Material*> materials;
     for (const Material& material : Materials()) {
         if (group != 0 && material.group != group)
@@ -110,7 +138,7 @@ int ChooseMaterial(int group, int currentId, ToolLibMaterial* record)
         if (material.id == currentId)
             list.selected = list.rows.size();
         const UINT groupId = IDS_GROUP_BASE + static_cast<UINT>(material.group);
-        list.rows.push_back({std::to_wstring(material.id), material.name, LoadText(groupId)});
+        list.rows.push_back({{std::to_wstring(material.id), material.name, LoadText(groupId)}});
         materials.push_back(&material);
     }
     if (materials.empty())

@@ -13,7 +13,8 @@ enum class Shape { Flat, BullNose, Ball, Face, Chamfer, CornerRound, Other };
 
 struct Tool {
     ToolLibKind kind;
-    int id;
+    int id;     ///< in the tool database, unique within kind and units
+    int number; ///< by which the shop calls the tool, unique within kind and units
     Units units;
     Shape shape;
     double diameter;
