@@ -67,9 +67,9 @@ ChooseList ListOf(UINT titleId, const std::vector<const Tool*>& tools, int curre
     for (const Tool* tool : tools) {
         if (tool->id == currentId)
             list.selected = list.rows.size();
-        list.rows.push_back({{std::to_wstring(tool->id), tool->description, LengthText(tool->diameter),
-                              std::to_wstring(tool->number)},
-                             IsBallMill(*tool)});
+        list.rows.push_back(
+            {{std::to_wstring(tool->id), tool->description, LengthText(tool->diameter), std::to_wstring(tool->number)},
+             IsBallMill(*tool)});
     }
     // Among drills or turning tools nobody looks for ball tools.
     if (HasBallToolSwitch() && std::ranges::any_of(list.rows, &ChooseList::Row::passesFilter))

@@ -63,8 +63,11 @@ void CDialogFrame::OnOK()
 {
     if (!m_framed.dialog.UpdateData(TRUE))
         return;
-    m_framed.dialog.SendMessage(kCheckSaveDataMessage);
-    if (m_framed.accept())
+    const auto store = [this] {
+        m_framed.dialog.SendMessage(kCheckSaveDataMessage);
+        m_framed.store();
+    };
+    if (m_save.Save(m_framed.title, store))
         CDialog::OnOK();
 }
 

@@ -5,6 +5,7 @@
 
 #include <afxwin.h>
 
+#include "pending_save.h"
 #include "resource.h"
 
 /// What the frame shows, and when it does what with it. The dialog outlives the frame.
@@ -13,7 +14,7 @@ struct FramedDialog {
     UINT templateId;
     UINT title;                     ///< string id
     std::function<void()> fill;     ///< once the dialog's window exists
-    std::function<bool()> accept;   ///< on OK; false keeps the frame open
+    std::function<void()> store;    ///< on OK, after the dialog has stored its changes
     std::function<void()> defaults; ///< after the dialog has taken its defaults
 };
 
@@ -35,4 +36,5 @@ private:
     void Arrange();
 
     FramedDialog m_framed;
+    PendingSave m_save;
 };

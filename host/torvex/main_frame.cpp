@@ -2,11 +2,13 @@
 
 #include <PelmarDlgs.h>
 
+#include "nc_data.h"
 #include "nc_dialogs.h"
 #include "option_pages.h"
 #include "options_sheet.h"
 #include "resource.h"
 #include "settings.h"
+#include "tool_library.h"
 
 IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
 
@@ -89,6 +91,7 @@ void CMainFrame::LoadSettings()
         page.restore();
     vSSheetOptions_Restore();
     GetLastDefsNCToolsInfo()->Restore();
+    LoadNcData();
     m_units = LoadUnits();
     ChangeUnits(m_units);
     ShowSettings();
@@ -134,7 +137,7 @@ void CMainFrame::OnNcDefaults()
 
 void CMainFrame::OnNcDefaultTools()
 {
-    ShowDefaultTools(this);
+    ShowDefaultTools(this, m_units);
     ShowSettings();
 }
 
@@ -177,6 +180,7 @@ void CMainFrame::ChangeUnits(int units)
 {
     for (const OptionPage& page : OptionPages())
         page.convert(units);
+    SetToolLibraryUnits(units);
     if (m_units != units)
         SaveUnits(units);
     m_units = units;

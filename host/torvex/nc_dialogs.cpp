@@ -3,7 +3,10 @@
 #include <PelmarDlgs.h>
 
 #include "dialog_frame.h"
+#include "nc_data.h"
+#include "pending_save.h"
 #include "resource.h"
+#include "tool_library.h"
 
 using namespace pelmar;
 
@@ -11,17 +14,24 @@ namespace {
 
 template <class Dialog, class Data> Data DataOf(void (Dialog::*setData)(Data*));
 
+/// What the host keeps for a dialog.
+template <class Data> struct Kept {
+    Data& data;
+    UINT what;      ///< string id of what is saved
+    void (*save)(); ///< saves what the dialog does not save by itself
+};
+
 /// A dialog of the library's with the host's data, and with a button for the defaults beside its own ones.
 template <class Dialog> class CWithDefaults : public Dialog {
 public:
     using Data = decltype(DataOf(&Dialog::SetData));
 
-    CWithDefaults(CWnd* parent, Data& data) : Dialog(parent), m_data(data) {}
+    CWithDefaults(CWnd* parent, Kept<Data> kept) : Dialog(parent), m_kept(kept) {}
 
     BOOL OnInitDialog() override
     {
         Dialog::OnInitDialog();
-        this->GetData(&m_data);
+        this->GetData(&m_kept.data);
         this->UpdateData(FALSE);
         AddButton();
         return TRUE;
@@ -32,10 +42,8 @@ protected:
     {
         if (!this->UpdateData(TRUE))
             return;
-        this->SendMessage(kWriteToIniMessage);
-        this->SendMessage(kCheckSaveDataMessage);
-        this->SetData(&m_data);
-        Dialog::OnOK();
+        if (m_save.Save(m_kept.what, [this] { Store(); }))
+            Dialog::OnOK();
     }
     void OnDefaults()
     {
@@ -45,6 +53,15 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    /// The question first, which may take values back; then the data, with the settings that the last message writes.
+    void Store()
+    {
+        this->SendMessage(kCheckSaveDataMessage);
+        this->SetData(&m_kept.data);
+        this->SendMessage(kWriteToIniMessage);
+        m_kept.save();
+    }
+
     /// In the row of the dialog's own buttons, at the left border.
     void AddButton()
     {
@@ -61,7 +78,8 @@ private:
         m_defaults.SendMessage(WM_SETFONT, static_cast<WPARAM>(this->SendMessage(WM_GETFONT)), TRUE);
     }
 
-    Data& m_data;
+    Kept<Data> m_kept;
+    PendingSave m_save;
     CButton m_defaults;
 };
 
@@ -73,21 +91,22 @@ END_MESSAGE_MAP()
 template <class Dialog> void ShowFramed(CWnd* parent, UINT title)
 {
     Dialog dialog;
-    CDialogFrame(parent, {dialog, Dialog::IDD, title, [] {}, [] { return true; }, [] {}}).DoModal();
+    CDialogFrame(parent, {dialog, Dialog::IDD, title, [] {}, [] {}, [] {}}).DoModal();
 }
 
 } // namespace
 
 void ShowNcDefaults(CWnd* parent)
 {
-    static OptNCDefData kept;
-    CWithDefaults<CDefsNCDefaultsDlg>(parent, kept).DoModal();
+    CWithDefaults<CDefsNCDefaultsDlg>(parent, {NcDefaults(), IDS_WHAT_NC_DEFAULTS, SaveNcDefaults}).DoModal();
 }
 
-void ShowDefaultTools(CWnd* parent)
+void ShowDefaultTools(CWnd* parent, int units)
 {
-    static OptNCDefToolsData kept;
-    CWithDefaults<CDefsNCToolsDlg>(parent, kept).DoModal();
+    // The dialog opens in the units of the tool library, which stays in those that the dialog last had.
+    SetToolLibraryUnits(units);
+    CWithDefaults<CDefsNCToolsDlg>(parent, {DefaultTools(), IDS_WHAT_DEFAULT_TOOLS, SaveDefaultTools}).DoModal();
+    SaveBallToolSwitch(); // a click in a tool list counts at once
 }
 
 void ShowDefaultsFileChooser(CWnd* parent)
@@ -103,12 +122,11 @@ void ShowTemplateOptions(CWnd* parent)
 void ShowSetupSheetOptions(CWnd* parent, int units)
 {
     CDefsSetupsheet dialog;
-    const auto accept = [&dialog] {
+    const auto store = [&dialog] {
         dialog.SetData();
         vSSheetOptions_Save();
-        return true;
     };
-    CDialogFrame(parent, {dialog, CDefsSetupsheet::IDD, IDS_SETUP_SHEET_TITLE, [&] { dialog.GetData(units); }, accept,
+    CDialogFrame(parent, {dialog, CDefsSetupsheet::IDD, IDS_SETUP_SHEET_TITLE, [&] { dialog.GetData(units); }, store,
                           [&dialog] { dialog.UpdateData(FALSE); }})
         .DoModal();
 }

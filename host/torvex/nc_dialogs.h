@@ -4,7 +4,8 @@
 #include <afxwin.h>
 
 void ShowNcDefaults(CWnd* parent);
-void ShowDefaultTools(CWnd* parent);
+/// `units`: those in which the user works, 0 inch, 1 millimetre.
+void ShowDefaultTools(CWnd* parent, int units);
 void ShowDefaultsFileChooser(CWnd* parent);
 void ShowTemplateOptions(CWnd* parent);
 /// `units`: 0 inch, 1 millimetre.

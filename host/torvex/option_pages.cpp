@@ -113,3 +113,9 @@ std::span<const OptionPage> OptionPages()
     };
     return pages;
 }
+
+void SaveAll()
+{
+    for (const OptionPage& page : OptionPages())
+        page.save();
+}

@@ -19,3 +19,6 @@ struct OptionPage {
 
 /// All of them, in the order of their tabs.
 std::span<const OptionPage> OptionPages();
+
+/// Saves the records of all of them.
+void SaveAll();

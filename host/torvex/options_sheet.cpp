@@ -67,27 +67,35 @@ void COptionsSheet::OnPageDefaults()
         page->SendMessage(kSetDefaultsMessage);
 }
 
-void COptionsSheet::SaveRecords() const
+/// Has all pages hand their changes over, and saves the records. False where a page refuses or nothing was saved.
+bool COptionsSheet::TakeAndSave()
 {
-    if (m_use == Use::Look)
-        return;
-    for (const OptionPage& page : OptionPages())
-        page.save();
+    return SendMessage(PSM_APPLY) != 0 && SaveRecords();
+}
+
+bool COptionsSheet::SaveRecords()
+{
+    return m_save.Save(IDS_WHAT_OPTIONS, SaveAll);
 }
 
 INT_PTR COptionsSheet::DoModal()
 {
     const INT_PTR result = CPropertySheetTVEx::DoModal();
-    if (result == IDOK)
+    // A program that presses the sheet's button by message comes past the command.
+    if (result == IDOK && m_use == Use::Edit && !m_isSaved)
         SaveRecords();
     return result;
 }
 
 LRESULT COptionsSheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    const bool isCommand = message == WM_COMMAND && m_use == Use::Edit;
+    // Before the sheet closes: it cannot be kept open afterwards.
+    if (isCommand && LOWORD(wParam) == IDOK && !(m_isSaved = TakeAndSave()))
+        return 0;
     const LRESULT result = CPropertySheetTVEx::WindowProc(message, wParam, lParam);
     // The sheet disables the button when every page has taken its changes.
-    if (message == WM_COMMAND && LOWORD(wParam) == kApplyButton && !GetDlgItem(kApplyButton)->IsWindowEnabled())
-        SaveRecords();
+    if (isCommand && LOWORD(wParam) == kApplyButton && !GetDlgItem(kApplyButton)->IsWindowEnabled() && !SaveRecords())
+        GetActivePage()->SetModified();
     return result;
 }

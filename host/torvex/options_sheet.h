@@ -7,7 +7,10 @@
 
 #include <ControlLib.h>
 
+#include "pending_save.h"
+
 /// Shows the pages of all operations and saves their records on OK and on Apply, unless they are only to be looked at.
+/// Where they could not be saved it stays open, until the user leaves it without.
 class COptionsSheet : public CPropertySheetTVEx {
     DECLARE_DYNAMIC(COptionsSheet)
 public:
@@ -28,9 +31,12 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void SaveRecords() const;
+    bool TakeAndSave();
+    bool SaveRecords();
 
     Use m_use;
+    PendingSave m_save;
+    bool m_isSaved = false; ///< by the OK that is under way
     std::vector<std::unique_ptr<CPropertyPage>> m_ownPages;
     std::list<CString> m_tabs; ///< the pages point at these texts
     CButton m_defaults;

@@ -37,6 +37,14 @@
 #define IDS_CLASSIC_3_AXIS 234
 #define IDS_MODERN_3_AXIS 235
 
+#define IDS_NOT_SAVED 240     // %1 what, %2 file, %3 reason
+#define IDS_KEPT_ASIDE 241    // %1 file
+#define IDS_SYSTEM_REASON 242 // %1 text, %2 code
+#define IDS_SYSTEM_CODE 243   // %1 code
+#define IDS_WHAT_OPTIONS 244
+#define IDS_WHAT_NC_DEFAULTS 245
+#define IDS_WHAT_DEFAULT_TOOLS 246
+
 #define IDS_TAB_2X 210
 #define IDS_TAB_3X 211
 #define IDS_TAB_Z_ROUGH 212

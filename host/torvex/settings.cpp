@@ -26,6 +26,12 @@ const char* NcFile()
     return GetSettingsLocations().settingsFile.c_str();
 }
 
+/// The system's functions copy the path into a buffer of MAX_PATH characters.
+bool HostFileCanExist()
+{
+    return GetSettingsLocations().hostSettingsFile.view().size() < MAX_PATH;
+}
+
 /// Makes the folder of the NC settings file where it is missing: nothing could be saved without it.
 void MakeNcFolder()
 {
@@ -43,19 +49,29 @@ void StartNcModule()
     MakeNcFolder();
 }
 
+int ReadHostWhole(const char* section, const char* key, int fallback)
+{
+    return HostFileCanExist() ? static_cast<int>(GetPrivateProfileIntA(section, key, fallback, HostFile())) : fallback;
+}
+
+bool WriteHostWhole(const char* section, const char* key, int value)
+{
+    return HostFileCanExist() && WritePrivateProfileStringA(section, key, std::to_string(value).c_str(), HostFile());
+}
+
 bool HostSetting(const char* section, const char* key)
 {
-    return GetPrivateProfileIntA(section, key, 0, HostFile()) != 0;
+    return ReadHostWhole(section, key, 0) != 0;
 }
 
 int LoadUnits()
 {
-    return GetPrivateProfileIntA(kSection, kUnitsKey, 0, HostFile()) == 1 ? 1 : 0;
+    return ReadHostWhole(kSection, kUnitsKey, 0) == 1 ? 1 : 0;
 }
 
 void SaveUnits(int units)
 {
-    WritePrivateProfileStringA(kSection, kUnitsKey, std::to_string(units).c_str(), HostFile());
+    WriteHostWhole(kSection, kUnitsKey, units);
 }
 
 CString NcSettingsPath()

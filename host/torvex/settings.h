@@ -7,6 +7,11 @@
 /// tool library is missing.
 void StartNcModule();
 
+/// A whole number of the host's settings file. Reading yields the fallback where it is absent; writing is false where
+/// the system refuses.
+int ReadHostWhole(const char* section, const char* key, int fallback);
+bool WriteHostWhole(const char* section, const char* key, int value);
+
 /// Whether a flag of the host's settings file is set. Off where it is absent.
 bool HostSetting(const char* section, const char* key);
 

@@ -3,9 +3,11 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include <windows.h>
 
+#include <commctrl.h>
 #include <prsht.h>
 
 #include <gtest/gtest.h>
@@ -20,6 +22,61 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kApplyButton = 0x3021;
+
+constexpr wchar_t kNcDefaults[] = L"Параметры ЧПУ";
+constexpr wchar_t kDefaultTools[] = L"Параметры ЧПУ > Сервис";
+
+// The tool library's list.
+constexpr wchar_t kInchMills[] = L"Выбор инструмента - фрезы (дюймы)";
+constexpr int kToolList = 101;
+constexpr int kOnlyBallTools = 102;
+
+/// A program that lets nobody else have a file, until it ends.
+class HeldFile {
+public:
+    explicit HeldFile(const fs::path& file)
+        : m_handle(CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr))
+    {
+        EXPECT_NE(INVALID_HANDLE_VALUE, m_handle);
+    }
+    ~HeldFile() { CloseHandle(m_handle); }
+    HeldFile(const HeldFile&) = delete;
+    HeldFile& operator=(const HeldFile&) = delete;
+
+private:
+    HANDLE m_handle;
+};
+
+/// Room in the memory of another program for what its windows read and write by address.
+class RemoteItem {
+public:
+    explicit RemoteItem(HANDLE process)
+        : m_process(process),
+          m_memory(VirtualAllocEx(process, nullptr, sizeof(LVITEMW) + sizeof m_text, MEM_COMMIT, PAGE_READWRITE))
+    {
+    }
+    ~RemoteItem() { VirtualFreeEx(m_process, m_memory, 0, MEM_RELEASE); }
+    RemoteItem(const RemoteItem&) = delete;
+    RemoteItem& operator=(const RemoteItem&) = delete;
+
+    std::wstring Cell(HWND list, int row, int column)
+    {
+        char* const text = static_cast<char*>(m_memory) + sizeof(LVITEMW);
+        LVITEMW item{};
+        item.iSubItem = column;
+        item.cchTextMax = static_cast<int>(std::size(m_text));
+        item.pszText = reinterpret_cast<LPWSTR>(text);
+        EXPECT_TRUE(WriteProcessMemory(m_process, m_memory, &item, sizeof item, nullptr));
+        SendMessage(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(m_memory));
+        EXPECT_TRUE(ReadProcessMemory(m_process, text, m_text, sizeof m_text, nullptr));
+        return m_text;
+    }
+
+private:
+    HANDLE m_process;
+    void* m_memory;
+    wchar_t m_text[200] = L"";
+};
 
 /// A folder with the host and its libraries, and the program running there.
 class Torvex : public testing::Test {
@@ -117,6 +174,45 @@ protected:
     {
         std::ifstream file(m_folder / L"TORVEXCore.INI", std::ios::binary);
         return std::string{std::istreambuf_iterator<char>(file), {}};
+    }
+
+    HWND OpenNcDefaults() { return OpenDialog(ID_NC_DEFAULTS, kNcDefaults); }
+    HWND OpenDefaultTools() { return OpenDialog(ID_NC_DEFAULT_TOOLS, kDefaultTools); }
+    void Cancel(HWND dialog)
+    {
+        ui::Click(dialog, IDCANCEL);
+        ASSERT_TRUE(ui::WaitForClose(dialog));
+    }
+    /// Ends the program as a user does, and starts it again.
+    void StartAgain()
+    {
+        EXPECT_EQ(0u, Close());
+        End();
+        Start();
+    }
+    /// The list that a button of the default tools opens.
+    HWND OpenToolList(HWND tools, int button, const wchar_t* title)
+    {
+        ui::Click(tools, button);
+        return ui::WaitForWindow(title, m_process.dwProcessId);
+    }
+    std::vector<std::wstring> ToolsIn(HWND list)
+    {
+        const HWND view = ui::Control(list, kToolList);
+        RemoteItem item(m_process.hProcess);
+        std::vector<std::wstring> ids;
+        for (int row = 0; row < ListView_GetItemCount(view); ++row)
+            ids.push_back(item.Cell(view, row, 0));
+        return ids;
+    }
+    bool ComesToShow(HWND dialog, int id, const std::wstring& text)
+    {
+        return ui::WaitUntil([&] { return ui::TextOf(dialog, id) == text; });
+    }
+    void WriteNcFile(const wchar_t* name, const std::string& text)
+    {
+        fs::create_directory(NcFile().parent_path());
+        std::ofstream(NcFile().parent_path() / name, std::ios::binary) << text;
     }
 
     void FindPage()
@@ -373,7 +469,6 @@ TEST_F(Torvex, DefaultsOfTheToolsAreShownAndKept)
 {
     Start();
     HWND dialog = OpenDialog(ID_NC_DEFAULT_TOOLS, L"Параметры ЧПУ > Сервис");
-    EXPECT_EQ(L"", ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT));
     ui::Click(dialog, IDC_PAGE_DEFAULTS);
     std::wstring tool;
     EXPECT_TRUE(ui::WaitUntil([&] { return !(tool = ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT)).empty(); }));
@@ -432,6 +527,423 @@ TEST_F(Torvex, SavesTheSetupSheetsOptions)
     ui::Type(sheet, IDC_SHEET_RAPID_RATE, L"500+1/2");
     Accept(dialog);
     EXPECT_TRUE(ComesToWrite("RapidRate=500.500000"));
+    EXPECT_EQ(0u, Close());
+}
+
+// ---- what the host keeps over its runs ----
+
+constexpr int kStartUpBoxes[] = {IDC_NCDEF_LAST_MATERIAL, IDC_NCDEF_LAST_TOOL, IDC_NCDEF_LAST_CUT_CONTROL,
+                                 IDC_NCDEF_MINIMUM_Z, IDC_NCDEF_PROGRAM_NAME};
+
+TEST_F(Torvex, KeepsTheNcDefaultsOverItsRuns)
+{
+    WriteNcFile(L"CURRENT.INI", "[Settings]\r\nUsePLXDialogs=3\r\n");
+    Start();
+    HWND dialog = OpenNcDefaults();
+    for (const int box : kStartUpBoxes)
+        ui::Click(dialog, box);
+    ui::Click(dialog, IDC_NCDEF_FILTER_SPANS);
+    ui::Type(dialog, IDC_NCDEF_MAX_SPAN, L"1/4");
+    ui::Type(dialog, IDC_NCDEF_ARC_TOLERANCE, L"0.02");
+    Accept(dialog);
+    for (const char* line : {"DefToLastMaterial;=1", "DefToLastTool=1", "DefToLastCutCtrl=1", "ProgramName=1",
+                             "FilterSpans=1", "FilterMaxSpan=0.250000", "FilterArcTol=0.020000"})
+        EXPECT_TRUE(ComesToWrite(line)) << line;
+    EXPECT_TRUE(ComesToWrite("UsePLXDialogs=7")) << "the other bits are other dialogs'";
+
+    StartAgain();
+    dialog = OpenNcDefaults();
+    for (const int box : kStartUpBoxes)
+        EXPECT_TRUE(ui::IsChecked(dialog, box)) << box;
+    EXPECT_TRUE(ui::IsChecked(dialog, IDC_NCDEF_FILTER_SPANS));
+    EXPECT_EQ(L"0.2500", ui::TextOf(dialog, IDC_NCDEF_MAX_SPAN));
+    EXPECT_EQ(L"0.0200", ui::TextOf(dialog, IDC_NCDEF_ARC_TOLERANCE));
+    const std::string before = NcText();
+    Accept(dialog);
+    EXPECT_EQ(before, NcText());
+
+    dialog = OpenNcDefaults();
+    ui::Click(dialog, IDC_NCDEF_MINIMUM_Z);
+    Accept(dialog);
+    EXPECT_TRUE(ComesToWrite("UsePLXDialogs=3"));
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, NcDefaultsThatOnlyTheDefaultsFileHoldsAreShownAndKept)
+{
+    WriteNcFile(L"DEFAULT.INI", "[ALLTIPI]\r\nDefToLastMaterial;=1\r\nDefToLastTool=1\r\nDefToLastCutCtrl=1\r\n"
+                                "[Settings]\r\nProgramName=1\r\nUsePLXDialogs=5\r\n[DefaultNCParameter]\r\n"
+                                "FilterSpans=1\r\nFilterMaxSpan=0.75\r\nFilterArcTol=0.125\r\n");
+    Start();
+    const HWND dialog = OpenNcDefaults();
+    for (const int box : kStartUpBoxes)
+        EXPECT_TRUE(ui::IsChecked(dialog, box)) << box;
+    EXPECT_TRUE(ui::IsChecked(dialog, IDC_NCDEF_FILTER_SPANS));
+    EXPECT_EQ(L"0.7500", ui::TextOf(dialog, IDC_NCDEF_MAX_SPAN));
+    EXPECT_EQ(L"0.1250", ui::TextOf(dialog, IDC_NCDEF_ARC_TOLERANCE));
+    Accept(dialog);
+    for (const char* line : {"DefToLastMaterial;=1", "DefToLastTool=1", "DefToLastCutCtrl=1", "ProgramName=1",
+                             "UsePLXDialogs=5", "FilterSpans=1", "FilterMaxSpan=0.750000", "FilterArcTol=0.125000"})
+        EXPECT_TRUE(ComesToWrite(line)) << line;
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, WhatTheUserSwitchedOffIsNotSwitchedOnAgainByTheDefaultsFile)
+{
+    WriteNcFile(L"DEFAULT.INI", "[ALLTIPI]\r\nDefToLastTool=1\r\n[DefaultNCParameter]\r\nFilterSpans=1\r\n");
+    Start();
+    HWND dialog = OpenNcDefaults();
+    ui::Click(dialog, IDC_NCDEF_LAST_TOOL);
+    ui::Click(dialog, IDC_NCDEF_FILTER_SPANS);
+    Accept(dialog);
+    StartAgain();
+    dialog = OpenNcDefaults();
+    EXPECT_FALSE(ui::IsChecked(dialog, IDC_NCDEF_LAST_TOOL));
+    EXPECT_FALSE(ui::IsChecked(dialog, IDC_NCDEF_FILTER_SPANS));
+    Cancel(dialog);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, TolerancesThatAreNoneYieldTheNextFile)
+{
+    WriteNcFile(L"CURRENT.INI", "[DefaultNCParameter]\r\nFilterMaxSpan=-1\r\nFilterArcTol=abc\r\n");
+    WriteNcFile(L"DEFAULT.INI", "[DefaultNCParameter]\r\nFilterMaxSpan=0.5\r\nFilterArcTol=-2\r\n");
+    Start();
+    const HWND dialog = OpenNcDefaults();
+    EXPECT_EQ(L"0.5000", ui::TextOf(dialog, IDC_NCDEF_MAX_SPAN));
+    EXPECT_EQ(L"0.0010", ui::TextOf(dialog, IDC_NCDEF_ARC_TOLERANCE));
+    Accept(dialog);
+    EXPECT_TRUE(ComesToWrite("FilterMaxSpan=0.500000"));
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, KeepsTheStockMaterialInItsOwnSettings)
+{
+    std::ofstream(m_folder / L"TORVEXCore.INI") << "[DefaultNCParameter]\r\nStockMaterial=5\r\n";
+    Start();
+    Accept(OpenNcDefaults());
+    StartAgain();
+    Accept(OpenNcDefaults());
+    EXPECT_NE(std::string::npos, HostText().find("StockMaterial=5\r\n"));
+    EXPECT_EQ(0u, Close());
+}
+
+/// The texts of the default tools, in the order of the kinds.
+constexpr int kToolTexts[] = {IDC_TOOLS_MILL_TEXT,         IDC_TOOLS_DRILL_TEXT,      IDC_TOOLS_LATHE_TEXT,
+                              IDC_TOOLS_LATHE_DRILL_TEXT,  IDC_TOOLS_PROBE_TEXT,      IDC_TOOLS_EDM_TEXT,
+                              IDC_TOOLS_THREAD_TEXT,       IDC_TOOLS_FACE_MILL_TEXT,  IDC_TOOLS_ROUND_MILL_TEXT,
+                              IDC_TOOLS_CHAMFER_MILL_TEXT, IDC_TOOLS_THREAD_MILL_TEXT};
+
+std::vector<std::wstring> ToolsShown(HWND dialog)
+{
+    std::vector<std::wstring> texts;
+    for (const int id : kToolTexts)
+        texts.push_back(ui::TextOf(dialog, id));
+    return texts;
+}
+
+TEST_F(Torvex, ShowsTheBuiltInToolsWhereNoFileHoldsAnyAsTheDefaultsButtonDoes)
+{
+    Start();
+    for (const UINT units : {ID_UNITS_INCH, ID_UNITS_MILLIMETRE}) {
+        Command(units);
+        const HWND dialog = OpenDefaultTools();
+        const std::vector<std::wstring> shown = ToolsShown(dialog);
+        for (const std::wstring& text : shown)
+            EXPECT_NE(L"", text);
+        // Another mill, for the button to have something to do.
+        const HWND list = OpenToolList(dialog, IDC_TOOLS_MILL,
+                                       units == ID_UNITS_INCH ? kInchMills : L"Выбор инструмента - фрезы (мм)");
+        ui::Press(ui::Control(list, kToolList), VK_END);
+        ui::Click(list, IDOK);
+        EXPECT_TRUE(ui::WaitUntil([&] { return ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT) != shown[0]; }));
+        ui::Click(dialog, IDC_PAGE_DEFAULTS);
+        EXPECT_TRUE(ui::WaitUntil([&] { return ToolsShown(dialog) == shown; }));
+        Cancel(dialog);
+    }
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, ToolsThatOnlyTheDefaultsFileHoldsAreShownAndKept)
+{
+    WriteNcFile(L"DEFAULT.INI", "[MILLTIPI]\r\nToolDefUS=36\r\nToolDefMM=2131\r\n[EDMTIPI]\r\nToolDefUS=8\r\n");
+    Start();
+    const HWND dialog = OpenDefaultTools();
+    const std::vector<std::wstring> shown = ToolsShown(dialog);
+    ui::Click(dialog, IDC_PAGE_DEFAULTS);
+    ui::Settle(dialog);
+    EXPECT_TRUE(ui::WaitUntil([&] { return ToolsShown(dialog) == shown; }));
+    Accept(dialog);
+    const std::string text = NcText();
+    for (const char* tools :
+         {"[MILLTIPI]\r\nToolDefUS=36\r\nToolDefMM=2131\r\n", "[EDMTIPI]\r\nToolDefUS=8\r\nToolDefMM=38\r\n",
+          "[THREADTIPI]\r\nToolDefUS=113\r\nToolDefMM=113\r\n"})
+        EXPECT_NE(std::string::npos, text.find(tools)) << tools;
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, KeepsTheDefaultToolsOverItsRuns)
+{
+    Start();
+    HWND dialog = OpenDefaultTools();
+    const HWND list = OpenToolList(dialog, IDC_TOOLS_MILL, kInchMills);
+    ui::Press(ui::Control(list, kToolList), VK_HOME);
+    ui::Click(list, IDOK);
+    ASSERT_TRUE(ui::WaitForClose(list));
+    ui::Click(dialog, IDC_TOOLS_MILL_GAUGE_LENGTH);
+    ui::Choose(dialog, IDC_TOOLS_SORT_TYPE, 2);
+    const std::vector<std::wstring> shown = ToolsShown(dialog);
+    Accept(dialog);
+    EXPECT_NE(std::string::npos, NcText().find("[MILLTIPI]\r\nToolDefUS=36\r\nToolDefMM=2139\r\n"));
+
+    StartAgain();
+    dialog = OpenDefaultTools();
+    EXPECT_EQ(shown, ToolsShown(dialog));
+    EXPECT_TRUE(ui::IsChecked(dialog, IDC_TOOLS_MILL_GAUGE_LENGTH));
+    EXPECT_EQ(2, ui::Selection(dialog, IDC_TOOLS_SORT_TYPE));
+    const std::string before = NcText();
+    Accept(dialog);
+    EXPECT_EQ(before, NcText());
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, ARestartReadsWhatIsKeptFromTheFilesAsTheyThenStand)
+{
+    Start();
+    HWND dialog = OpenDefaultTools();
+    const std::wstring builtIn = ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT);
+    Cancel(dialog);
+    WriteNcFile(L"CURRENT.INI", "[MILLTIPI]\r\nToolDefUS=36\r\n[ALLTIPI]\r\nDefToLastTool=1\r\n");
+    Restart();
+    dialog = OpenDefaultTools();
+    EXPECT_NE(builtIn, ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT));
+    Cancel(dialog);
+    dialog = OpenNcDefaults();
+    EXPECT_TRUE(ui::IsChecked(dialog, IDC_NCDEF_LAST_TOOL));
+    Cancel(dialog);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, OpensTheDefaultToolsInItsOwnUnits)
+{
+    Start();
+    Command(ID_UNITS_MILLIMETRE);
+    HWND dialog = OpenDefaultTools();
+    EXPECT_TRUE(ui::IsChecked(dialog, IDC_TOOLS_MILLIMETRE));
+    const std::wstring millimetreMill = ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT);
+    ui::Click(dialog, IDC_TOOLS_INCH);
+    EXPECT_TRUE(ui::WaitUntil([&] { return ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT) != millimetreMill; }));
+    Accept(dialog);
+
+    // After OK the tool library keeps the dialog's units. The host's are others.
+    dialog = OpenDefaultTools();
+    EXPECT_TRUE(ui::IsChecked(dialog, IDC_TOOLS_MILLIMETRE));
+    EXPECT_EQ(millimetreMill, ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT));
+    Cancel(dialog);
+    for (const bool again : {false, true}) {
+        again ? StartAgain() : void(Restart());
+        dialog = OpenDefaultTools();
+        EXPECT_TRUE(ui::IsChecked(dialog, IDC_TOOLS_MILLIMETRE)) << again;
+        EXPECT_EQ(millimetreMill, ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT)) << again;
+        Cancel(dialog);
+    }
+    Command(ID_UNITS_INCH);
+    dialog = OpenDefaultTools();
+    EXPECT_TRUE(ui::IsChecked(dialog, IDC_TOOLS_INCH));
+    Cancel(dialog);
+    EXPECT_EQ(0u, Close());
+}
+
+// ---- tool lists ----
+
+TEST_F(Torvex, ToolListsHaveTheOrderThatTheUserHasChosen)
+{
+    const std::vector<std::wstring> byDiameter = {L"36",  L"61",   L"40", L"44", L"63",   L"71",
+                                                  L"335", L"1100", L"48", L"52", L"1007", L"1011"};
+    const std::vector<std::wstring> byToolNumber = {L"44", L"1100", L"1011", L"1007", L"335", L"71",
+                                                    L"63", L"61",   L"52",   L"48",   L"40",  L"36"};
+    const std::vector<std::wstring> byDatabaseNumber = {L"36", L"40", L"44",  L"48",   L"52",   L"61",
+                                                        L"63", L"71", L"335", L"1007", L"1011", L"1100"};
+    Start();
+    HWND dialog = OpenDefaultTools();
+    HWND list = OpenToolList(dialog, IDC_TOOLS_MILL, kInchMills);
+    EXPECT_EQ(byDiameter, ToolsIn(list));
+    Cancel(list);
+    for (const auto& [choice, expected] : {std::pair{1, byToolNumber}, {2, byDatabaseNumber}, {0, byDiameter}}) {
+        ui::Choose(dialog, IDC_TOOLS_SORT_TYPE, choice);
+        Accept(dialog);
+        dialog = OpenDefaultTools();
+        list = OpenToolList(dialog, IDC_TOOLS_MILL, kInchMills);
+        EXPECT_EQ(expected, ToolsIn(list)) << choice;
+        Cancel(list);
+    }
+    Cancel(dialog);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, AnOrderThatIsNoneListsToolsByDiameter)
+{
+    WriteNcFile(L"CURRENT.INI", "[Settings]\r\nToolSortBy=7\r\n");
+    Start();
+    const HWND dialog = OpenDefaultTools();
+    const HWND list = OpenToolList(dialog, IDC_TOOLS_MILL, kInchMills);
+    EXPECT_EQ(L"61", ToolsIn(list)[1]);
+    Cancel(list);
+    Cancel(dialog);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, TheBallToolBoxLeavesBallMillsOnlyInThisListAndTheNextOnes)
+{
+    const std::vector<std::wstring> ballMills = {L"61", L"63"};
+    Start();
+    HWND dialog = OpenDefaultTools();
+    HWND list = OpenToolList(dialog, IDC_TOOLS_MILL, kInchMills);
+    EXPECT_FALSE(ui::IsChecked(list, kOnlyBallTools));
+    EXPECT_EQ(12u, ToolsIn(list).size());
+    ui::Click(list, kOnlyBallTools);
+    EXPECT_TRUE(ui::WaitUntil([&] { return ToolsIn(list) == ballMills; }));
+    EXPECT_FALSE(ui::IsEnabled(list, IDOK)) << "the current tool is no ball mill";
+    Cancel(list);
+    Cancel(dialog);
+
+    StartAgain();
+    EXPECT_NE(std::string::npos, HostText().find("OnlyBallTools=1\r\n"));
+    dialog = OpenDefaultTools();
+    list = OpenToolList(dialog, IDC_TOOLS_FACE_MILL, kInchMills);
+    EXPECT_TRUE(ui::IsChecked(list, kOnlyBallTools));
+    EXPECT_EQ(ballMills, ToolsIn(list));
+    ui::Click(list, kOnlyBallTools);
+    EXPECT_TRUE(ui::WaitUntil([&] { return ToolsIn(list).size() == 12; }));
+    EXPECT_TRUE(ui::IsEnabled(list, IDOK)) << "the current tool is there again";
+    Cancel(list);
+    list = OpenToolList(dialog, IDC_TOOLS_DRILL, L"Выбор инструмента - осевой инструмент (фрезерный) (дюймы)");
+    EXPECT_FALSE(ui::IsShown(list, kOnlyBallTools));
+    Cancel(list);
+    Cancel(dialog);
+    EXPECT_EQ(0u, Close());
+    EXPECT_NE(std::string::npos, HostText().find("OnlyBallTools=0\r\n"));
+}
+
+// ---- a save that fails ----
+
+TEST_F(Torvex, ASheetThatCouldNotBeSavedTellsTheFileAndTheReasonAndStaysOpen)
+{
+    WriteNcFile(L"CURRENT.INI", "[Options2x]\r\nSideRoughStep=0.3\r\n");
+    const std::string before = NcText();
+    Start();
+    OpenOptions();
+    Type(IDC_2X_SIDE_ROUGH_STEP, L"0.5");
+    {
+        const HeldFile held(NcFile());
+        ui::Click(m_sheet, IDOK);
+        ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+        EXPECT_NE(std::wstring::npos, box.text.find(L"Не сохранено: Параметры ЧПУ.")) << "what";
+        EXPECT_NE(std::wstring::npos, box.text.find(L"CURRENT.INI")) << "the file";
+        EXPECT_NE(std::wstring::npos, box.text.find(L"код 32")) << "the reason";
+        EXPECT_EQ((std::vector<int>{IDRETRY, IDCANCEL}), box.buttons);
+        ui::Answer(box, IDRETRY);
+        box = ui::WaitForBox(m_process.dwProcessId);
+        ui::Answer(box, IDCANCEL);
+        ui::Settle(m_sheet);
+        EXPECT_TRUE(IsWindow(m_sheet));
+        EXPECT_EQ(L"0.5000", ui::TextOf(m_page, IDC_2X_SIDE_ROUGH_STEP));
+    }
+    EXPECT_EQ(before, NcText());
+    CloseOptions(IDOK);
+    EXPECT_TRUE(ComesToWrite("SideRoughStep=0.500000"));
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, TryingAgainSavesAsSoonAsTheFileIsFreeAndClosesTheSheet)
+{
+    WriteNcFile(L"CURRENT.INI", "[Options2x]\r\nSideRoughStep=0.3\r\n");
+    Start();
+    OpenOptions();
+    Type(IDC_2X_SIDE_ROUGH_STEP, L"0.5");
+    ui::MessageBoxSeen box;
+    {
+        const HeldFile held(NcFile());
+        ui::Click(m_sheet, IDOK);
+        box = ui::WaitForBox(m_process.dwProcessId);
+    }
+    ui::Answer(box, IDRETRY);
+    EXPECT_TRUE(ui::WaitForClose(m_sheet));
+    EXPECT_TRUE(ComesToWrite("SideRoughStep=0.500000"));
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, AnApplyThatCouldNotBeSavedCanBePressedAgain)
+{
+    WriteNcFile(L"CURRENT.INI", "[Options2x]\r\nSideRoughStep=0.3\r\n");
+    Start();
+    OpenOptions();
+    Type(IDC_2X_SIDE_ROUGH_STEP, L"0.5");
+    ui::Choose(m_page, IDC_2X_SIDE_ROUGH_STEP_TYPE, 0);
+    ASSERT_TRUE(ui::WaitUntil([&] { return ui::IsEnabled(m_sheet, kApplyButton); }));
+    {
+        const HeldFile held(NcFile());
+        ui::Click(m_sheet, kApplyButton);
+        ui::Answer(ui::WaitForBox(m_process.dwProcessId), IDCANCEL);
+        ASSERT_TRUE(ui::WaitUntil([&] { return ui::IsEnabled(m_sheet, kApplyButton); }));
+    }
+    ui::Click(m_sheet, kApplyButton);
+    EXPECT_TRUE(ComesToWrite("SideRoughStep=0.500000"));
+    EXPECT_TRUE(ui::WaitUntil([&] { return !ui::IsEnabled(m_sheet, kApplyButton); }));
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, GivingUpASaveKeepsTheValuesInMemory)
+{
+    WriteNcFile(L"CURRENT.INI", "[Options2x]\r\nSideRoughStep=0.3\r\n");
+    Start();
+    OpenOptions();
+    Type(IDC_2X_SIDE_ROUGH_STEP, L"0.5");
+    {
+        const HeldFile held(NcFile());
+        ui::Click(m_sheet, IDOK);
+        ui::Answer(ui::WaitForBox(m_process.dwProcessId), IDCANCEL);
+        ui::Settle(m_sheet);
+        CloseOptions(IDCANCEL);
+    }
+    OpenOptions();
+    EXPECT_EQ(L"0.5000", ui::TextOf(m_page, IDC_2X_SIDE_ROUGH_STEP));
+    CloseOptions(IDOK);
+    EXPECT_TRUE(ComesToWrite("SideRoughStep=0.500000"));
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, ADialogThatCouldNotBeSavedStaysOpenUntilItIs)
+{
+    struct Case {
+        UINT command;
+        const wchar_t* title;
+        const wchar_t* what;
+        const char* line;
+    };
+    constexpr Case kCases[] = {
+        {ID_NC_DEFAULTS, kNcDefaults, L"Общие параметры", "FilterSpans=0"},
+        {ID_NC_DEFAULT_TOOLS, kDefaultTools, L"Инструмент по умолчанию", "ToolSortBy=0"},
+        {ID_NC_SETUP_SHEET, L"Создание отчета", L"Создание отчета", "RapidRate=400.000000"},
+    };
+    WriteNcFile(L"CURRENT.INI", "[Mine]\r\nKept=1\r\n");
+    Start();
+    for (const Case& one : kCases) {
+        const HWND dialog = OpenDialog(one.command, one.title);
+        {
+            const HeldFile held(NcFile());
+            ui::Click(dialog, IDOK);
+            const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+            EXPECT_NE(std::wstring::npos, box.text.find(std::wstring(L"Не сохранено: ") + one.what + L"."));
+            ui::Answer(box, IDCANCEL);
+            ui::Settle(dialog);
+            EXPECT_TRUE(IsWindow(dialog));
+        }
+        Accept(dialog);
+        EXPECT_TRUE(ComesToWrite(one.line));
+        EXPECT_EQ(0u, NcText().find("[Mine]\r\nKept=1\r\n"));
+    }
     EXPECT_EQ(0u, Close());
 }
 

@@ -1,0 +1,14 @@
+// What the user's OK is to save, until it is on the disk.
+#pragma once
+
+#include <functional>
+
+#include <afxwin.h>
+
+/// Saves for a window, and has it stay open where that fails.
+class PendingSave {
+public:
+    /// Calls `store`, which saves, and reports where that fails; the user may try again. `what`: string id of what is
+    /// saved. False where he has given up: the window stays open, and its next OK comes here again.
+    bool Save(UINT what, const std::function<void()>& store);
+};
