@@ -44,6 +44,8 @@ CString SystemText(DWORD error, LANGID language)
 
 CString SystemReason(DWORD error)
 {
+    if (error == ERROR_SUCCESS)
+        return Text(IDS_UNKNOWN_REASON);
     CString text = SystemText(error, MAKELANGID(LANG_RUSSIAN, SUBLANG_DEFAULT));
     if (text.IsEmpty())
         text = SystemText(error, 0); // in the language that the system has

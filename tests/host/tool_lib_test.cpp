@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int kList = 101;
+constexpr int kOnlyBallTools = 102;
 
 /// The library as its users have it: loaded by name, its functions found by name.
 class ToolLibrary : public testing::Test {
@@ -375,6 +376,127 @@ TEST_F(ToolList, AnyKindIsListedByItsNumber)
     WaitForResult();
     EXPECT_EQ(2, m_tool.id);
     EXPECT_EQ(TOOLLIB_THREAD_MILL, m_tool.kind);
+}
+
+// The orders by number, and the box in the host itself, are tested with the host.
+TEST_F(ToolList, WithoutTheNcOptionsToolsAreListedByDiameterAndThereIsNoBallToolBox)
+{
+    ASSERT_EQ(nullptr, GetModuleHandle(L"PelmarDlgs.dll"));
+    SetUnits(1);
+    Open(L"Выбор инструмента - фрезы (мм)", [&] { return TOOLLIB(ToolLib_nGetMillTool)(2139, &m_tool, 0); });
+    EXPECT_FALSE(ui::IsShown(m_window, kOnlyBallTools));
+    double last = 0;
+    for (int row = 0; row < Rows(); ++row) {
+        const double diameter = std::stod(Cell(row, 2));
+        EXPECT_LE(last, diameter) << row;
+        last = diameter;
+    }
+    ui::Click(m_window, IDCANCEL);
+    WaitForResult();
+}
+
+/// With the library of the NC options loaded, as a host has it.
+class ToolListOfHost : public ToolList {
+protected:
+    void SetUp() override
+    {
+        ToolList::SetUp();
+        // The module's code joins the framework on the thread that uses it.
+        ui::UiThread::Get().Call([this] { m_ncOptions = LoadLibrary(L"PelmarDlgs.dll"); });
+        ASSERT_NE(nullptr, m_ncOptions);
+        SwitchBallTools(false);
+    }
+    void TearDown() override
+    {
+        ui::UiThread::Get().Call([this] { FreeLibrary(m_ncOptions); });
+        ToolList::TearDown();
+    }
+
+    bool OnlyBallTools() { return NcOption<bool()>("PelmarUI_nGetEnableOnlyBallTool")(); }
+    void SwitchBallTools(bool on) { NcOption<void(bool)>("PelmarUI_nSetEnableOnlyBallTool")(on); }
+    void TurnBox(bool on)
+    {
+        ui::Click(m_window, kOnlyBallTools);
+        ui::Settle(m_window);
+        EXPECT_EQ(on, ui::IsChecked(m_window, kOnlyBallTools));
+        EXPECT_EQ(on, OnlyBallTools());
+    }
+
+private:
+    template <class Function> Function* NcOption(const char* name)
+    {
+        return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(m_ncOptions, name)));
+    }
+
+    HMODULE m_ncOptions = nullptr;
+};
+
+TEST_F(ToolListOfHost, ShowsAndSetsTheSwitchOfTheNcOptions)
+{
+    SwitchBallTools(true);
+    SetUnits(1);
+    Open(L"Выбор инструмента - фрезы (мм)", [&] { return TOOLLIB(ToolLib_nGetMillTool)(2139, &m_tool, 0); });
+    EXPECT_TRUE(ui::IsChecked(m_window, kOnlyBallTools));
+    EXPECT_EQ(L"Только &сферические фрезы", ui::TextOf(m_window, kOnlyBallTools));
+    EXPECT_EQ(2, Rows());
+    EXPECT_EQ(L"2155", Cell(0, 0));
+    EXPECT_EQ(L"2157", Cell(1, 0));
+    TurnBox(false);
+    EXPECT_EQ(14, Rows());
+    EXPECT_EQ(L"2139", SelectedId());
+    ui::Click(m_window, IDCANCEL);
+    WaitForResult();
+    EXPECT_FALSE(OnlyBallTools());
+}
+
+TEST_F(ToolListOfHost, WhatIsSelectedStaysSoWhereItIsShownAndComesBackWhereItIsNot)
+{
+    SetUnits(1);
+    Open(L"Выбор инструмента - фрезы (мм)", [&] { return TOOLLIB(ToolLib_nGetMillTool)(2157, &m_tool, 0); });
+    TurnBox(true);
+    EXPECT_EQ(L"2157", SelectedId());
+    TurnBox(false);
+    EXPECT_EQ(L"2157", SelectedId());
+    ui::Press(m_list, VK_HOME);
+    EXPECT_EQ(L"2131", SelectedId());
+    TurnBox(true);
+    EXPECT_EQ(L"", SelectedId());
+    EXPECT_FALSE(ui::IsEnabled(m_window, IDOK));
+    TurnBox(false);
+    EXPECT_EQ(L"2131", SelectedId());
+    EXPECT_TRUE(ui::IsEnabled(m_window, IDOK));
+    ui::Click(m_window, IDCANCEL);
+    WaitForResult();
+}
+
+TEST_F(ToolListOfHost, GivesTheBallMillThatWasChosenFromTheShorterList)
+{
+    SwitchBallTools(true);
+    SetUnits(1);
+    Open(L"Выбор инструмента - фрезы для поверхностей (мм)",
+         [&] { return TOOLLIB(ToolLib_nGetSRMTool)(1, &m_tool, 0); });
+    ui::Press(m_list, VK_END);
+    ui::Click(m_window, IDOK);
+    WaitForResult();
+    EXPECT_EQ(1, m_result);
+    EXPECT_EQ(2157, m_tool.id);
+}
+
+TEST_F(ToolListOfHost, ListsWithoutBallMillsHaveNoBoxAndAreShownInFull)
+{
+    SwitchBallTools(true);
+    SetUnits(0);
+    Open(L"Выбор инструмента - фрезы для черновой обработки поверхностей (дюймы)",
+         [&] { return TOOLLIB(ToolLib_nGetSRMTrueMillTool)(44, &m_tool, 0); });
+    EXPECT_FALSE(ui::IsShown(m_window, kOnlyBallTools));
+    EXPECT_EQ(6, Rows());
+    ui::Click(m_window, IDCANCEL);
+    WaitForResult();
+    Open(L"Выбор инструмента - измерительные щупы (дюймы)", [&] { return TOOLLIB(ToolLib_nGetDgtzTool)(1, &m_tool); });
+    EXPECT_FALSE(ui::IsShown(m_window, kOnlyBallTools));
+    EXPECT_EQ(1, Rows());
+    ui::Click(m_window, IDCANCEL);
+    WaitForResult();
 }
 
 TEST_F(ToolList, MaterialsAreChosenByGroupAndDescribedById)
