@@ -3,6 +3,7 @@
 #include <PelmarDlgs.h>
 
 #include "save_report.h"
+#include "settings.h"
 
 using namespace pelmar;
 
@@ -22,7 +23,7 @@ SaveResult ResultFor(const char* file)
     if (error == ERROR_FILE_NOT_FOUND)
         return result;
     result.saved = false;
-    result.file = CString(file);
+    result.file = FullPath(file);
     result.reason = SystemReason(error);
     return result;
 }

@@ -19,6 +19,9 @@ bool HostSetting(const char* section, const char* key);
 int LoadUnits();
 void SaveUnits(int units);
 
+/// A path of the settings locations as the user knows it: from the drive on.
+CString FullPath(const char* path);
+
 /// The file in which the NC options are saved, and what it holds; the text is empty while there is no file.
 CString NcSettingsPath();
 CString NcSettingsText();

@@ -49,13 +49,13 @@ TEST_F(SaveReport, TellsWhatFileAndReasonAndTriesAgainAsOftenAsTheUserWants)
     const ui::MessageBoxSeen first = ui::WaitForBox();
     EXPECT_EQ(0u, first.text.find(L"Не сохранено: Параметры ЧПУ.\n\nФайл: D:\\Cfg\\%2\\CURRENT.INI\nПричина: "))
         << "marks in a path";
-    EXPECT_NE(std::wstring::npos, first.text.find(L" (код 112)\n"));
+    EXPECT_NE(std::wstring::npos, first.text.find(L" (код\u00a0112)\n"));
     EXPECT_NE(std::wstring::npos, first.text.find(L"остаются в окне и в памяти программы"));
     EXPECT_EQ((std::vector<int>{IDRETRY, IDCANCEL}), first.buttons);
     ui::Answer(first, IDRETRY);
     const ui::MessageBoxSeen second = ui::WaitForBox();
     EXPECT_NE(std::wstring::npos, second.text.find(L"D:\\B.INI"));
-    EXPECT_NE(std::wstring::npos, second.text.find(L" (код 5)\n"));
+    EXPECT_NE(std::wstring::npos, second.text.find(L" (код\u00a05)\n"));
     ui::Answer(second, IDRETRY);
     WaitForEnd();
     EXPECT_TRUE(m_saved);

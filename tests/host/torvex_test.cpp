@@ -839,8 +839,8 @@ TEST_F(Torvex, ASheetThatCouldNotBeSavedTellsTheFileAndTheReasonAndStaysOpen)
         ui::Click(m_sheet, IDOK);
         ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
         EXPECT_NE(std::wstring::npos, box.text.find(L"Не сохранено: Параметры ЧПУ.")) << "what";
-        EXPECT_NE(std::wstring::npos, box.text.find(L"CURRENT.INI")) << "the file";
-        EXPECT_NE(std::wstring::npos, box.text.find(L"код 32")) << "the reason";
+        EXPECT_NE(std::wstring::npos, box.text.find(L"Файл: " + NcFile().wstring() + L"\n")) << "the file";
+        EXPECT_NE(std::wstring::npos, box.text.find(L"код\u00a032")) << "the reason";
         EXPECT_EQ((std::vector<int>{IDRETRY, IDCANCEL}), box.buttons);
         ui::Answer(box, IDRETRY);
         box = ui::WaitForBox(m_process.dwProcessId);
