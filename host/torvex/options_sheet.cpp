@@ -91,8 +91,11 @@ LRESULT COptionsSheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const bool isCommand = message == WM_COMMAND && m_use == Use::Edit;
     // Before the sheet closes: it cannot be kept open afterwards.
-    if (isCommand && LOWORD(wParam) == IDOK && !(m_isSaved = TakeAndSave()))
-        return 0;
+    if (isCommand && LOWORD(wParam) == IDOK) {
+        m_isSaved = TakeAndSave();
+        if (!m_isSaved)
+            return 0;
+    }
     const LRESULT result = CPropertySheetTVEx::WindowProc(message, wParam, lParam);
     // The sheet disables the button when every page has taken its changes.
     if (isCommand && LOWORD(wParam) == kApplyButton && !GetDlgItem(kApplyButton)->IsWindowEnabled() && !SaveRecords())

@@ -468,18 +468,19 @@ TEST_F(Torvex, KeepsTheNcDefaultsBetweenUses)
 TEST_F(Torvex, DefaultsOfTheToolsAreShownAndKept)
 {
     Start();
-    HWND dialog = OpenDialog(ID_NC_DEFAULT_TOOLS, L"Параметры ЧПУ > Сервис");
+    WriteNcFile(L"DEFAULT.INI", "[MILLTIPI]\r\nToolDefUS=36\r\n");
+    HWND dialog = OpenDefaultTools();
+    const std::wstring before = ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT);
     ui::Click(dialog, IDC_PAGE_DEFAULTS);
     std::wstring tool;
-    EXPECT_TRUE(ui::WaitUntil([&] { return !(tool = ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT)).empty(); }));
+    EXPECT_TRUE(ui::WaitUntil([&] { return (tool = ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT)) != before; }));
     ui::Choose(dialog, IDC_TOOLS_SORT_TYPE, 2);
     Accept(dialog);
     EXPECT_TRUE(ComesToWrite("ToolSortBy=2"));
-    dialog = OpenDialog(ID_NC_DEFAULT_TOOLS, L"Параметры ЧПУ > Сервис");
+    dialog = OpenDefaultTools();
     EXPECT_EQ(tool, ui::TextOf(dialog, IDC_TOOLS_MILL_TEXT));
     EXPECT_EQ(2, ui::Selection(dialog, IDC_TOOLS_SORT_TYPE));
-    ui::Click(dialog, IDCANCEL);
-    ASSERT_TRUE(ui::WaitForClose(dialog));
+    Cancel(dialog);
     EXPECT_EQ(0u, Close());
 }
 
@@ -707,6 +708,20 @@ TEST_F(Torvex, KeepsTheDefaultToolsOverItsRuns)
     EXPECT_EQ(0u, Close());
 }
 
+TEST_F(Torvex, WithoutTheToolLibraryTheDefaultToolsStayAsTheFilesHaveThem)
+{
+    fs::remove(m_folder / L"ToolLib.dll");
+    WriteNcFile(L"CURRENT.INI", "[MILLTIPI]\r\nToolDefUS=36\r\n[EDMTIPI]\r\nToolDefMM=37\r\n");
+    Launch();
+    ui::Answer(ui::WaitForBox(m_process.dwProcessId), IDOK);
+    m_main = ui::WaitForWindow(L"TORVEX", m_process.dwProcessId);
+    Accept(OpenDefaultTools());
+    const std::string text = NcText();
+    EXPECT_NE(std::string::npos, text.find("[MILLTIPI]\r\nToolDefUS=36\r\nToolDefMM=2139\r\n"));
+    EXPECT_NE(std::string::npos, text.find("[EDMTIPI]\r\nToolDefMM=37\r\nToolDefUS=10\r\n"));
+    EXPECT_EQ(0u, Close());
+}
+
 TEST_F(Torvex, ARestartReadsWhatIsKeptFromTheFilesAsTheyThenStand)
 {
     Start();
@@ -864,7 +879,7 @@ TEST_F(Torvex, TryingAgainSavesAsSoonAsTheFileIsFreeAndClosesTheSheet)
     ui::MessageBoxSeen box;
     {
         const HeldFile held(NcFile());
-        ui::Click(m_sheet, IDOK);
+        ui::Press(ui::Control(m_page, IDC_2X_SIDE_ROUGH_STEP), VK_RETURN);
         box = ui::WaitForBox(m_process.dwProcessId);
     }
     ui::Answer(box, IDRETRY);
