@@ -89,10 +89,9 @@ template <class Class, class Result, class... Arguments> struct AfxMember<Result
 /// A handler of commands and control notifications.
 using AFX_PMSG = void (CCmdTarget::*)();
 
-/// Turns a handler into the one shape that message maps hold. `Required` is the type that its entry asks for: nothing
-/// but its class may differ. The handler's own type stands beside it because some compilers take equally named classes
-/// that are local to different files for one by the handler alone.
-template <class Required, class Function, Function handler> struct AfxThunk {
+/// Turns a handler of a known signature into the one shape that message maps hold. The type stands beside the handler
+/// because some compilers take equally named classes that are local to different files for one by the handler alone.
+template <class Function, Function handler> struct AfxThunk {
     using Class = typename AfxMember<Function>::Type;
 
     static LRESULT Command(CCmdTarget& target, WPARAM, LPARAM)
@@ -124,8 +123,11 @@ template <class Required, class Function, Function handler> struct AfxThunk {
     }
 };
 
-/// The cast refuses a handler of any other result or arguments, those that would convert included.
-#define AFX_THUNK(type, memberFxn) AfxThunk<decltype(static_cast<type>(memberFxn)), decltype(memberFxn), memberFxn>
+template <class Required, class Thunk> using AfxThunkOf = Thunk;
+
+/// The cast refuses a handler of any other result or arguments than the entry's, those that would convert included.
+#define AFX_THUNK(type, memberFxn)                                                                                     \
+    AfxThunkOf<decltype(static_cast<type>(memberFxn)), AfxThunk<decltype(memberFxn), memberFxn>>
 
 #define ON_CONTROL(code, id, memberFxn) {WM_COMMAND, code, id, &AFX_THUNK(AFX_PMSG, memberFxn)::Command},
 #define ON_COMMAND(id, memberFxn) ON_CONTROL(CN_COMMAND, id, memberFxn)
