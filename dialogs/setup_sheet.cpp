@@ -2,6 +2,7 @@
 
 #include "dialogs/setup_sheet_controls.h"
 #include "frame/module.h"
+#include "pages/field_leaving.h"
 #include "pages/page_controls.h"
 #include "records/record_kind.h"
 
@@ -44,13 +45,23 @@ public:
 
     void LeaveEdit(int id, double& value)
     {
-        if (m_dialog.UpdateData(TRUE))
+        if (leaving.TakeData(m_dialog))
             ShowExpression(&m_dialog, id, &value);
     }
 
+    /// What the exchange does not show.
+    void ShowStyle()
+    {
+        SelectStyle();
+        EnableOutputs();
+        hasNewStyle = false;
+    }
+
     ExpressionEdits edits;
+    FieldLeaving leaving;
     CComboBox styles;
     Record options;
+    bool hasNewStyle = false; ///< the defaults brought it; the controls do not show it yet
 
 private:
     CDefsSetupsheet& m_dialog;
@@ -76,12 +87,14 @@ CDefsSetupsheet::~CDefsSetupsheet()
 
 BOOL CDefsSetupsheet::OnInitDialog()
 {
+    m_state->hasNewStyle = false;
     CNCDialog::OnInitDialog();
     m_state->styles.SubclassDlgItem(IDC_SHEET_STYLE, this);
     for (const int style : kStyleOrder)
         m_state->styles.SetItemData(m_state->styles.AddString(LoadText(RecordFacts<Record>::styles[style].id)),
                                     static_cast<DWORD_PTR>(style));
     m_state->edits = AttachExpressionEdits(*this, kSetupSheetPage.controls);
+    m_state->leaving.Begin();
     return TRUE;
 }
 
@@ -89,13 +102,20 @@ void CDefsSetupsheet::DoDataExchange(CDataExchange* exchange)
 {
     CNCDialog::DoDataExchange(exchange);
     ExchangeControls(exchange, &m_state->options, kSetupSheetPage.controls);
+    if (!exchange->m_bSaveAndValidate && m_state->hasNewStyle)
+        m_state->ShowStyle();
+}
+
+void CDefsSetupsheet::OnCancel()
+{
+    m_state->leaving.GiveUp();
+    CNCDialog::OnCancel();
 }
 
 void CDefsSetupsheet::GetData(int units)
 {
     m_state->options = RecordFacts<Record>::Kind().LiveInUnitsOf(units);
-    m_state->SelectStyle();
-    m_state->EnableOutputs();
+    m_state->ShowStyle();
     UpdateData(FALSE);
 }
 
@@ -133,6 +153,7 @@ void CDefsSetupsheet::OnCbnSelchangeCbStyle()
 LRESULT CDefsSetupsheet::SetDefaults(WPARAM, LPARAM)
 {
     m_state->options.vOptions_Defaults();
+    m_state->hasNewStyle = true;
     return 0;
 }
 

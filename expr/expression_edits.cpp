@@ -1,7 +1,10 @@
 #include "PelmarDlgs/expression_edits.h"
 
+#include <cmath>
+
 #include "PelmarDlgs/evaluator.h"
 #include "PelmarDlgs/settings_values.h"
+#include "expr/refusals.h"
 
 namespace pelmar {
 namespace {
@@ -26,6 +29,26 @@ void ReplaceText(HWND control, const CString& text)
 CString DisplayText(double value, const int* isSet)
 {
     return !isSet || *isSet ? CString(FormatForDisplay(value).c_str()) : CString();
+}
+
+/// Whether the text is no more than what the value is shown as: the value may hold more than is to be seen.
+bool IsUntouched(const CString& text, double value, const int* isSet)
+{
+    return std::isfinite(value) && text == DisplayText(value, isSet);
+}
+
+bool AreSame(double left, double right)
+{
+    return left == right && std::signbit(left) == std::signbit(right);
+}
+
+void Take(double evaluated, const CString& text, double& value, int* isSet)
+{
+    // Most values are shown as they are, and then nothing has to be formatted.
+    if (!AreSame(evaluated, value) && !IsUntouched(text, value, isSet))
+        value = WithoutNoise(evaluated);
+    if (isSet)
+        *isSet = 1;
 }
 } // namespace
 
@@ -115,16 +138,22 @@ void DDX_Expression(CDataExchange* exchange, int id, double& value, int* isSet)
     }
     double evaluated = 0;
     if (EvalFieldReal(CStringA(text), &evaluated)) {
-        value = evaluated;
-        if (isSet)
-            *isSet = 1;
+        Take(evaluated, text, value, isSet);
         return;
     }
+    // What is shown in more characters than a field takes does not evaluate, and has not been typed either.
+    if (IsUntouched(text, value, isSet))
+        return;
     const bool quiet = g_quiet != 0;
+    if (!quiet && SilentRefusals::AreOn())
+        AfxThrowUserException();
     g_quiet = 0;
     if (quiet)
         return;
-    AfxMessageBox(AFX_IDP_PARSE_REAL);
+    {
+        const SilentRefusals meanwhile;
+        AfxMessageBox(AFX_IDP_PARSE_REAL);
+    }
     exchange->Fail();
 }
 
@@ -132,10 +161,15 @@ void DDV_ExpressionRange(CDataExchange* exchange, double value, double low, doub
 {
     if (!exchange->m_bSaveAndValidate || (low <= value && value <= high) || g_quiet != 0)
         return;
+    if (SilentRefusals::AreOn())
+        AfxThrowUserException();
     CString prompt;
     AfxFormatString2(prompt, AFX_IDP_PARSE_REAL_RANGE, CString(FormatForDisplay(low).c_str()),
                      CString(FormatForDisplay(high).c_str()));
-    AfxMessageBox(prompt, MB_OK | MB_ICONEXCLAMATION, AFX_IDP_PARSE_REAL_RANGE);
+    {
+        const SilentRefusals meanwhile;
+        AfxMessageBox(prompt, MB_OK | MB_ICONEXCLAMATION, AFX_IDP_PARSE_REAL_RANGE);
+    }
     exchange->Fail();
 }
 
@@ -144,8 +178,11 @@ void ShowExpression(const CWnd* parent, int id, double* value, int* isSet)
     const CWnd* const control = parent ? parent->GetDlgItem(id) : nullptr;
     if (!control)
         return;
+    const CString shown = DisplayText(*value, isSet);
+    if (TextOf(control->m_hWnd) == shown)
+        return;
     *value = WithoutNoise(*value);
-    ReplaceText(control->m_hWnd, DisplayText(*value, isSet));
+    SetWindowText(control->m_hWnd, shown);
 }
 
 } // namespace pelmar

@@ -78,6 +78,13 @@ public:
         page.UpdateData(FALSE);
     }
 
+    /// The page's window has been made, for the first time or once more.
+    void Begin()
+    {
+        isFirstActivation = true;
+        overridesOther = false;
+    }
+
     const LatheAxisUse use;
     bool isFirstActivation = true;
     LatheAxisMode working;
@@ -99,6 +106,12 @@ CLatheInputDisplayPage::~CLatheInputDisplayPage()
 bool CLatheInputDisplayPage::OverridesOther() const
 {
     return m_editor->overridesOther;
+}
+
+BOOL CLatheInputDisplayPage::OnInitDialog()
+{
+    m_editor->Begin();
+    return CPropertyPageTVEx::OnInitDialog();
 }
 
 BOOL CLatheInputDisplayPage::OnSetActive()

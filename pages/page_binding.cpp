@@ -4,6 +4,13 @@
 
 namespace pelmar {
 
+void PageBinding::Initialise(const CExpRegenPropertyPage& page)
+{
+    m_edits.clear(); // those of an earlier showing have lost their windows
+    m_leaving.Begin();
+    m_isReadOnly = page.m_readOnly != 0;
+}
+
 void PageBinding::Activate(CExpRegenPropertyPage& page)
 {
     if (m_edits.empty())
@@ -11,7 +18,7 @@ void PageBinding::Activate(CExpRegenPropertyPage& page)
     FillLists(page, m_facts.controls);
     ShowLists(page);
     ShowMore(page);
-    Initialise(page);
+    m_isReadOnly = page.m_readOnly != 0;
     GoOver(page, {Occasion::Activation});
 }
 
@@ -50,9 +57,9 @@ void PageBinding::Handle(CExpRegenPropertyPage& page, int id)
     GoOver(page, {Occasion::Choice, id});
 }
 
-void PageBinding::LeaveEdit(CPropertyPage& page, const Control& control)
+void PageBinding::LeaveEdit(CExpRegenPropertyPage& page, const Control& control)
 {
-    if (!page.UpdateData(TRUE) || !control.option->real)
+    if (!TakeLeftData(page) || !control.option->real)
         return;
     double& value = control.option->real(Record());
     ShowExpression(&page, control.id, &value);

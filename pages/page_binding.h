@@ -2,6 +2,7 @@
 #pragma once
 
 #include "PelmarDlgs/pages/record_page.h"
+#include "pages/field_leaving.h"
 #include "pages/page_controls.h"
 #include "records/record_kind.h"
 
@@ -31,10 +32,15 @@ public:
 
     // ---- what the page does ----
 
-    void Initialise(const CExpRegenPropertyPage& page) { m_isReadOnly = page.m_readOnly != 0; }
+    /// The page's window has been made, for the first time or once more.
+    void Initialise(const CExpRegenPropertyPage& page);
     void Activate(CExpRegenPropertyPage& page);
     virtual void Exchange(CWnd& page, CDataExchange* exchange);
     void Handle(CExpRegenPropertyPage& page, int id);
+    /// For the handler of an edit that the user leaves. False where the data are not taken.
+    bool TakeLeftData(CExpRegenPropertyPage& page) { return m_leaving.TakeData(page); }
+    /// The user leaves the page without OK.
+    void GiveUp() { m_leaving.GiveUp(); }
     /// Shows the defaults that the copy has taken, where the page does so at once.
     virtual void ShowDefaults(CExpRegenPropertyPage& page);
     void ShowHelp(const CWnd& page, CPoint position) const
@@ -57,12 +63,13 @@ protected:
     void ShowLists(const CWnd& page) { ShowKept(page, Record(), m_facts.controls); }
 
 private:
-    void LeaveEdit(CPropertyPage& page, const Control& control);
+    void LeaveEdit(CExpRegenPropertyPage& page, const Control& control);
     void TakeChoice(CPropertyPage& page, const Control& control);
     void TakeCheck(CPropertyPage& page, const Control& control);
 
     const PageFacts& m_facts;
     ExpressionEdits m_edits;
+    FieldLeaving m_leaving;
     bool m_isReadOnly = false;
 };
 

@@ -1,5 +1,10 @@
 #include "pages/page_controls.h"
 
+#include <cwchar>
+#include <cwctype>
+#include <utility>
+
+#include "expr/refusals.h"
 #include "frame/help_viewer.h"
 #include "frame/module.h"
 
@@ -20,6 +25,30 @@ void ExchangeReal(CDataExchange* exchange, void* record, const Control& control)
     DDX_Expression(exchange, control.id, value);
     DDV_ExpressionRange(exchange, control.checkedInstead ? checked.Real(record) : value, range.low, range.high);
     control.option->real(record) = value;
+}
+
+bool IsWholeNumber(const wchar_t* text)
+{
+    wchar_t* end = nullptr;
+    const long long value = std::wcstoll(text, &end, 10);
+    if (end == text || !std::in_range<int>(value))
+        return false;
+    while (std::iswspace(*end))
+        ++end;
+    return !*end;
+}
+
+/// The framework's exchange always says what it refuses.
+void ExchangeWhole(CDataExchange* exchange, int& value, int id)
+{
+    if (exchange->m_bSaveAndValidate && SilentRefusals::AreOn()) {
+        CString text;
+        exchange->m_pDlgWnd->GetDlgItem(id)->GetWindowText(text);
+        if (!IsWholeNumber(text))
+            AfxThrowUserException();
+    }
+    const SilentRefusals meanwhile; // a prompt is one: what comes in below it asks nothing
+    DDX_Text(exchange, id, value);
 }
 
 void ExchangeSwitch(CDataExchange* exchange, int& value, const Control& control)
@@ -45,7 +74,7 @@ void ExchangeControl(CDataExchange* exchange, void* record, const Control& contr
     else if (control.kind == ControlKind::Check)
         ExchangeSwitch(exchange, value, control);
     else
-        DDX_Text(exchange, control.id, value);
+        ExchangeWhole(exchange, value, control.id);
 }
 
 } // namespace

@@ -48,6 +48,12 @@ void CRecordPage::OnOK()
     SetModified(FALSE);
 }
 
+void CRecordPage::OnReset()
+{
+    m_binding->GiveUp();
+    CExpRegenPropertyPage::OnReset();
+}
+
 void CRecordPage::Handle(ControlRow row)
 {
     m_binding->Handle(*this, row.Id());

@@ -36,6 +36,7 @@ INT_PTR CDefsRotaryMillDlg::DoModal()
 
 BOOL CDefsRotaryMillDlg::OnInitDialog()
 {
+    m_leaving.Begin();
     for (size_t coordinate = 0; coordinate < m_edits.size(); ++coordinate)
         m_edits[coordinate].SubclassDlgItem(static_cast<unsigned>(kEdits[coordinate]), this);
     return CDialog::OnInitDialog();
@@ -48,16 +49,15 @@ void CDefsRotaryMillDlg::DoDataExchange(CDataExchange* exchange)
         DDX_Expression(exchange, kEdits[coordinate], m_axis[coordinate]);
 }
 
-/// A cancelled dialog loses the focus too: it must not complain about a text that the user gives up.
 void CDefsRotaryMillDlg::OnCancel()
 {
-    m_isCancelled = true;
+    m_leaving.GiveUp();
     CDialog::OnCancel();
 }
 
 void CDefsRotaryMillDlg::LeaveEdit(size_t coordinate)
 {
-    if (!m_isCancelled && UpdateData(TRUE))
+    if (m_leaving.TakeData(*this))
         ShowExpression(this, kEdits[coordinate], &m_axis[coordinate]);
 }
 

@@ -3,11 +3,12 @@
 
 #include "PelmarDlgs/expression_edits.h"
 #include "pages/axis_points.h"
+#include "pages/field_leaving.h"
 
 /// Edits an axis as two points. It stores nothing: who shows it fills the axis before and reads it afterwards.
 ///
-/// A coordinate that is left is taken at once, so that a cancelled dialog holds what was taken until then. One that is
-/// empty or does not evaluate is refused and keeps the dialog open.
+/// A coordinate that is left for another one is taken at once, so that a cancelled dialog holds what was taken until
+/// then. One that is empty or does not evaluate is refused and keeps the dialog open, except for Cancel.
 class CDefsRotaryMillDlg : public CDialog {
 public:
     enum { IDD = 4157 };
@@ -36,5 +37,5 @@ private:
     void LeaveEdit(size_t coordinate);
 
     std::array<CExpEqEdit, std::tuple_size_v<pelmar::AxisPoints>> m_edits;
-    bool m_isCancelled = false;
+    pelmar::FieldLeaving m_leaving;
 };

@@ -95,8 +95,10 @@ void CDefsEDMPage::OnKillFSharpCornerAngle()
 void CDefsEDMPage::OnKillFCurveTol()
 {
     // The tolerance shows in the hidden retract threshold, not in its own field: the next exchange stores it there too.
-    if (UpdateData(TRUE))
-        ShowExpression(this, IDC_EDM_MAX_FEED_BETWEEN, &In(Binding()).CurveTolerance);
+    if (!Binding().TakeLeftData(*this))
+        return;
+    double shown = In(Binding()).CurveTolerance;
+    ShowExpression(this, IDC_EDM_MAX_FEED_BETWEEN, &shown);
 }
 
 void CDefsEDMPage::OnSelFeedBetweenType()

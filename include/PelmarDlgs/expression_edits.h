@@ -51,7 +51,8 @@ PELMAR_API int& ExpressionQuietFlag();
 
 /// Exchanges a real with a control. `isSet`, where given, tells whether the field holds a value at all: an empty text
 /// stands for a field without one, which keeps its old value. A text that does not evaluate shows the standard prompt
-/// and fails the exchange; the field then stays as it was.
+/// and fails the exchange; the field then stays as it was. A text that is what the field's value is shown as keeps that
+/// value in full; of another text, a value that is too small to be shown is 0.
 PELMAR_API void DDX_Expression(CDataExchange* exchange, int id, double& value, int* isSet = nullptr);
 
 /// Checks, when saving, that the value lies between the bounds or on one. Shows the standard prompt with both and fails
@@ -59,7 +60,7 @@ PELMAR_API void DDX_Expression(CDataExchange* exchange, int id, double& value, i
 PELMAR_API void DDV_ExpressionRange(CDataExchange* exchange, double value, double low, double high);
 
 /// Shows a real in the parent's control at the display precision; what is too small to be shown becomes 0 in the field
-/// too. Nothing happens where there is no parent or no such control.
+/// too. Nothing happens where there is no parent or no such control, or where the control shows the value already.
 PELMAR_API void ShowExpression(const CWnd* parent, int id, double* value, int* isSet = nullptr);
 
 } // namespace pelmar

@@ -145,13 +145,13 @@ TEST_F(FaceMillPage, LeavingTheNumberOfFinishPassesTakesThePagesData)
 {
     OpenSheet sheet({page.get()});
     ui::Type(sheet.Page(), 4453, L"2.5");
-    ui::FocusOn(sheet.Page(), 4456);
+    ui::FocusOn(sheet.Page(), 4440);
     const ui::MessageBoxSeen box = ui::WaitForBox();
     EXPECT_EQ(L"Please enter an integer.", box.text);
     ui::Answer(box, IDOK);
     EXPECT_EQ(ui::Control(sheet.Page(), 4453), ui::Focus(sheet.window));
     ui::Type(sheet.Page(), 4453, L"-3");
-    ui::FocusOn(sheet.Page(), 4456);
+    ui::FocusOn(sheet.Page(), 4440);
     EXPECT_FALSE(ui::IsBoxOpen());
     sheet.Ok();
     EXPECT_EQ(-3, GetLastFaceMillDefsInfo()->FinishPassZ);

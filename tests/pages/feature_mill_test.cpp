@@ -359,7 +359,7 @@ TYPED_TEST(FeatureMillPage, AnExpressionThatDoesNotEvaluateIsRefusedOnLeavingIts
         const auto shown = this->Fresh();
         OpenSheet sheet({shown.get()});
         ui::Type(sheet.Page(), row.id, L"radius");
-        ui::FocusOn(sheet.Page(), kDefaultsButton);
+        ui::FocusOn(sheet.Page(), 4440);
         const ui::MessageBoxSeen box = ui::WaitForBox();
         EXPECT_EQ(L"Please enter a number.", box.text) << row.id;
         ui::Answer(box, IDOK);

@@ -71,10 +71,10 @@ TYPED_TEST(GrooveSlotPage, TheDepthIsTakenOnOkAndNotWhenItIsLeft)
     OpenSheet sheet({this->page.get()});
     EXPECT_EQ(L"1.2500", ui::TextOf(sheet.Page(), 4565));
     ui::Type(sheet.Page(), 4565, L"(");
-    ui::FocusOn(sheet.Page(), 4456);
+    ui::FocusOn(sheet.Page(), 4440);
     EXPECT_FALSE(ui::IsBoxOpen());
     ui::Type(sheet.Page(), 4565, L"1/2");
-    ui::FocusOn(sheet.Page(), 4456);
+    ui::FocusOn(sheet.Page(), 4440);
     EXPECT_EQ(L"1/2", ui::TextOf(sheet.Page(), 4565));
     sheet.Ok();
     EXPECT_EQ(0.5, TypeParam::Live()->*TypeParam::depth);
@@ -101,11 +101,11 @@ TYPED_TEST(GrooveSlotPage, AnyPlungeClearanceIsAcceptedAsTheRapidPlaneIsCheckedI
 {
     OpenSheet sheet({this->page.get()});
     ui::Type(sheet.Page(), 4460, L"-5");
-    ui::FocusOn(sheet.Page(), 4456);
+    ui::FocusOn(sheet.Page(), 4440);
     EXPECT_FALSE(ui::IsBoxOpen());
     EXPECT_EQ(L"-5.0000", ui::TextOf(sheet.Page(), 4460));
     ui::Type(sheet.Page(), 4459, L"-5");
-    ui::FocusOn(sheet.Page(), 4456);
+    ui::FocusOn(sheet.Page(), 4440);
     ui::Answer(ui::WaitForBox(), IDOK);
     EXPECT_EQ(ui::Control(sheet.Page(), 4459), ui::Focus(sheet.window));
     ui::Type(sheet.Page(), 4459, L"5");

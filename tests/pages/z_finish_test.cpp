@@ -310,7 +310,7 @@ TEST_F(PageZFinish, TheHostsDefaultsMessageShowsTheDefaultsAndLeavesThePageUnmod
     EXPECT_FALSE(sheet.IsModified());
     EXPECT_EQ(3.0, GetLastZFinishOptions()->DepthFinishStep);
     sheet.Ok();
-    EXPECT_EQ(0.08, GetLastZFinishOptions()->DepthFinishStep);
+    EXPECT_EQ(double{0.08F}, GetLastZFinishOptions()->DepthFinishStep) << "as it was read";
 }
 
 TEST_F(PageZFinish, DefaultsAreInTheUnitsThatThePageWasGiven)

@@ -28,12 +28,13 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
+    void OnCancel() override;
 
     void OnEnKillfocusEditRapidrate();
     void OnEnKillfocusEditToolchange();
     void OnBnClickedChkTooling();
     void OnCbnSelchangeCbStyle();
-    /// Answers kSetDefaultsMessage: the copy takes its defaults; the controls do not show them by themselves.
+    /// Answers kSetDefaultsMessage: the copy takes its defaults; the controls show them at the next UpdateData(FALSE).
     LRESULT SetDefaults(WPARAM wParam, LPARAM lParam);
     void OnHelp();
     DECLARE_MESSAGE_MAP()

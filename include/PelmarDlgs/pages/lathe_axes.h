@@ -43,6 +43,7 @@ public:
     /// however it closed.
     bool OverridesOther() const;
 
+    BOOL OnInitDialog() override;
     BOOL OnSetActive() override;
     void OnOK() override;
 

@@ -22,6 +22,7 @@ public:
     BOOL OnInitDialog() override;
     BOOL OnSetActive() override;
     void OnOK() override;
+    void OnReset() override;
 
 protected:
     /// The page takes the binding over.
