@@ -175,8 +175,8 @@ private:
         page.UpdateData(FALSE);
     }
 
-    /// The controls show the defaults at the next activation.
-    void ShowDefaults(CExpRegenPropertyPage&) override {}
+    /// The controls show the defaults at the next activation. What would be refused gives way at once.
+    void ShowDefaults(CExpRegenPropertyPage& page) override { ShowInPlaceOfRefused(page); }
 
     void ApplyRules(CWnd&, const Occasion& occasion) override
     {

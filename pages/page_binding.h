@@ -61,6 +61,7 @@ protected:
     /// Goes over what may be used; the last word is the read-only flag's, as the page was last shown with it.
     void GoOver(CExpRegenPropertyPage& page, const Occasion& occasion);
     void ShowLists(const CWnd& page) { ShowKept(page, Record(), m_facts.controls); }
+    void ShowInPlaceOfRefused(CWnd& page) { pelmar::ShowInPlaceOfRefused(page, Record(), m_facts.controls); }
 
 private:
     void LeaveEdit(CExpRegenPropertyPage& page, const Control& control);

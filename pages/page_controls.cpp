@@ -16,15 +16,34 @@ CString TextOf(const ChoiceText& text)
     return text.literal ? CString(text.literal) : LoadText(text.id);
 }
 
-/// Exchanges a real. The field keeps its value until the new one has passed its check.
-void ExchangeReal(CDataExchange* exchange, void* record, const Control& control)
+void ExchangeChecked(CDataExchange* exchange, const void* record, const Control& control, double& value)
 {
     const Option& checked = control.checkedInstead ? *control.checkedInstead : *control.option;
     const Range range = control.range.value_or(checked.range);
-    double value = control.option->Real(record);
     DDX_Expression(exchange, control.id, value);
     DDV_ExpressionRange(exchange, control.checkedInstead ? checked.Real(record) : value, range.low, range.high);
+}
+
+/// Exchanges a real. The field keeps its value until the new one has passed its check.
+void ExchangeReal(CDataExchange* exchange, void* record, const Control& control)
+{
+    double value = control.option->Real(record);
+    ExchangeChecked(exchange, record, control, value);
     control.option->real(record) = value;
+}
+
+bool IsRefused(CWnd& page, const void* record, const Control& control)
+{
+    const SilentRefusals silent;
+    CDataExchange taking(&page, TRUE);
+    double value = control.option->Real(record);
+    try {
+        ExchangeChecked(&taking, record, control, value);
+        return false;
+    } catch (CUserException* refusal) {
+        refusal->Delete();
+        return true;
+    }
 }
 
 bool IsWholeNumber(const wchar_t* text)
@@ -143,6 +162,18 @@ void ExchangeControls(CDataExchange* exchange, void* record, std::span<const Con
     for (const Control& control : controls)
         if (control.isExchanged && ControlOf(*exchange->m_pDlgWnd, control.id))
             ExchangeControl(exchange, record, control);
+}
+
+void ShowInPlaceOfRefused(CWnd& page, const void* record, std::span<const Control> controls)
+{
+    for (const Control& control : controls) {
+        const bool isReal = control.isExchanged && control.option->real;
+        if (!isReal || !ControlOf(page, control.id) || !IsRefused(page, record, control))
+            continue;
+        CDataExchange showing(&page, FALSE);
+        double value = control.option->Real(record);
+        DDX_Expression(&showing, control.id, value);
+    }
 }
 
 ExpressionEdits AttachExpressionEdits(CWnd& page, std::span<const Control> controls)

@@ -39,6 +39,9 @@ bool IsChecked(const CWnd& page, int id);
 /// Exchanges the rows that take part in it, in their order, checking ranges.
 void ExchangeControls(CDataExchange* exchange, void* record, std::span<const Control> controls);
 
+/// Shows a real of the record where the edit's text would be refused.
+void ShowInPlaceOfRefused(CWnd& page, const void* record, std::span<const Control> controls);
+
 /// Expression edits, attached to controls for as long as they live.
 using ExpressionEdits = std::vector<std::unique_ptr<CExpEqEditBase>>;
 ExpressionEdits AttachExpressionEdits(CWnd& page, std::span<const Control> controls);

@@ -1,15 +1,14 @@
 // How a user leaves a field whose text is refused.
 //
-// An edit that loses the focus hands its page's or dialog's data over, and a text that is refused brings up a prompt and
-// the focus back. Not so where that would stand in the user's way:
+// An edit that loses the focus hands over the data of its page or dialog, and a text that is refused brings up a prompt
+// and the focus back. Not so where that would stand in the user's way:
 //
-// - On the way to the sheet's or dialog's Cancel (the button IDCANCEL of the window or of one around it), to Esc and to
-//   the close box nothing is taken and nothing asked.
-// - On the way to a button that restores the defaults, what is accepted is taken; what is refused waits for the
-//   defaults, which replace it.
-// - On the way to another control around the page (OK, Apply, a tab, a host's button), what is accepted is taken; what is
-//   refused is asked about by what the click does, or, where the click asks nothing and the focus rests on the control,
-//   right afterwards: once.
+// - On the way to Cancel (the button IDCANCEL of the window or of one around it), to Esc and to the close box nothing
+//   is taken and nothing asked.
+// - On the way to a button that restores the defaults, what is accepted is taken; what is refused gives way to them.
+// - On the way to another control around the page (OK, Apply, a tab, a host's button), what is accepted is taken. What
+//   is refused is asked about once: by what a click there does, or right afterwards, where a click asks nothing and the
+//   focus rests on the control.
 #pragma once
 
 #include <afxwin.h>
