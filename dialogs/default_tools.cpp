@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "PelmarDlgs/saving.h"
 #include "PelmarDlgs/settings_values.h"
 #include "frame/tool_library.h"
 #include "pages/page_controls.h"
@@ -175,8 +176,10 @@ void CDefsNCToolsInfo::Defaults()
 
 void CDefsNCToolsInfo::Save()
 {
+    SaveStep step;
     for (const SettingsRow& row : kSettings)
         WriteWhole(kSection, row.key, this->*row.value);
+    step.Commit();
 }
 
 void CDefsNCToolsInfo::Restore()

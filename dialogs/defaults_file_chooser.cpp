@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "PelmarDlgs/saving.h"
 #include "PelmarDlgs/settings_locations.h"
 #include "dialogs/folder_browser.h"
 #include "dialogs/restart_question.h"
@@ -83,9 +84,11 @@ public:
     {
         const char* const host = GetSettingsLocations().hostSettingsFile.c_str();
         startupKey = KeyOfFile();
+        SaveStep step;
         profile::WriteText(kFolderSection, kFolderKey, folder.c_str(), host);
         profile::WriteText(kStartupSection, kStartupKey, startupKey.c_str(), host);
         profile::WriteText(kFilesSection, startupKey.c_str(), file.c_str(), host);
+        step.Commit();
     }
 
     CComboBox files;

@@ -3,6 +3,7 @@
 #include <limits>
 #include <string>
 
+#include "PelmarDlgs/saving.h"
 #include "PelmarDlgs/settings_locations.h"
 #include "PelmarDlgs/settings_values.h"
 #include "dialogs/restart_question.h"
@@ -190,10 +191,12 @@ public:
 
     void StoreUntilRestart() const
     {
+        SaveStep step;
         WriteHostWhole(kDisplaySection, kDisplayMode, values.displayMode);
         WriteHostWhole(kDisplaySection, kMenuIcons, values.menuIcons);
         WriteHostWhole(kParameterSection, kClassic3Axis, values.classic3Axis);
         WriteSpanFilter(values, kMaxSpanUntilRestart);
+        step.Commit();
     }
 
     /// What needs a restart is again as it was at opening; the span filter is as it is built in.
@@ -272,8 +275,10 @@ void CDefsNCDefaultsDlg::SetData(OptNCDefData* data)
     data->filterMaxSpan = m_state->values.filterMaxSpan;
     data->filterArcTolerance = m_state->values.filterArcTolerance;
 
+    SaveStep step;
     WriteHostWhole(kParameterSection, kClassic3Axis, m_state->values.classic3Axis);
     WriteSpanFilter(m_state->values, kMaxSpan);
+    step.Commit();
 }
 
 BOOL CDefsNCDefaultsDlg::OnInitDialog()

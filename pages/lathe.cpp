@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "PelmarDlgs/saving.h"
 #include "PelmarDlgs/settings_locations.h"
 #include "frame/module.h"
 #include "frame/number_text.h"
@@ -195,8 +196,10 @@ void CDefsLathePage::OnRestoreDefaults()
 LRESULT CDefsLathePage::WriteToIni(WPARAM, LPARAM)
 {
     const char* const file = GetSettingsLocations().hostSettingsFile.c_str();
+    SaveStep step;
     for (int mode = 0; mode < kLatheAxisModes; ++mode)
         profile::WriteText(kAxisModeSection, kAxisModeKeys[mode], AxisModeLine(In(Binding()).axisModes[mode]).c_str(),
                            file);
+    step.Commit();
     return 0;
 }

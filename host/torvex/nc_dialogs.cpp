@@ -76,6 +76,7 @@ private:
         text.LoadString(IDS_PAGE_DEFAULTS);
         m_defaults.CreateEx(0, L"BUTTON", text, WS_CHILD | WS_VISIBLE | WS_TABSTOP, rect, this, IDC_PAGE_DEFAULTS);
         m_defaults.SendMessage(WM_SETFONT, static_cast<WPARAM>(this->SendMessage(WM_GETFONT)), TRUE);
+        MarkAsDefaultsButton(m_defaults.m_hWnd);
     }
 
     Kept<Data> m_kept;

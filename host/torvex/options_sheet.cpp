@@ -58,6 +58,7 @@ BOOL COptionsSheet::OnInitDialog()
                         IDC_PAGE_DEFAULTS);
     m_defaults.SendMessage(WM_SETFONT, static_cast<WPARAM>(SendMessage(WM_GETFONT)), TRUE);
     m_defaults.EnableWindow(m_use == Use::Edit);
+    MarkAsDefaultsButton(m_defaults.m_hWnd);
     return CPropertySheetTVEx::OnInitDialog();
 }
 

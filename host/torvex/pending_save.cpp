@@ -3,43 +3,30 @@
 #include <PelmarDlgs.h>
 
 #include "save_report.h"
-#include "settings.h"
 
 using namespace pelmar;
 
 namespace {
 
-/// Whether what was saved can have got into the file: a file that nobody may write now has not taken it.
-SaveResult ResultFor(const char* file)
+SaveResult ResultOf(const SaveOutcome& outcome)
 {
     SaveResult result;
-    const HANDLE handle = CreateFileA(file, GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (handle != INVALID_HANDLE_VALUE) {
-        CloseHandle(handle);
-        return result;
-    }
-    const DWORD error = GetLastError();
-    if (error == ERROR_FILE_NOT_FOUND)
-        return result;
-    result.saved = false;
-    result.file = FullPath(file);
-    result.reason = SystemReason(error);
+    result.saved = outcome.failure == SaveFailure::None;
+    result.file = outcome.file;
+    if (!result.saved)
+        result.reason = SystemReason(outcome.systemError);
+    result.keptAside = outcome.keptAside;
     return result;
-}
-
-SaveResult ResultOfLastSave()
-{
-    const SaveResult result = ResultFor(GetSettingsLocations().settingsFile.c_str());
-    return result.saved ? ResultFor(GetSettingsLocations().hostSettingsFile.c_str()) : result;
 }
 
 } // namespace
 
 bool PendingSave::Save(UINT what, const std::function<void()>& store)
 {
-    return SaveAndReport(what, [&] {
-        store();
-        return ResultOfLastSave();
+    SaveStep step;
+    store();
+    return SaveAndReport(what, [&step] {
+        step.Commit();
+        return ResultOf(LastSave());
     });
 }

@@ -56,7 +56,7 @@ int ReadHostWhole(const char* section, const char* key, int fallback)
 
 bool WriteHostWhole(const char* section, const char* key, int value)
 {
-    return HostFileCanExist() && WritePrivateProfileStringA(section, key, std::to_string(value).c_str(), HostFile());
+    return SaveText(HostFile(), section, key, std::to_string(value).c_str());
 }
 
 bool HostSetting(const char* section, const char* key)
