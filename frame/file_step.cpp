@@ -30,8 +30,7 @@ FileSystem& Files()
 
 namespace {
 
-// None of these ends like a settings file, in its short name neither: choosers list "*.INI".
-constexpr char kLockEnd[] = ".lock";
+// Neither these nor the lock's end like a settings file's, in their short forms neither: choosers list "*.INI".
 constexpr char kCopyEnd[] = ".new";
 constexpr char kKeptEnd[] = ".damaged";
 constexpr size_t kDigits = 8;
@@ -358,7 +357,7 @@ void Step::LookAtPlace()
 bool Step::TakeLock()
 {
     for (;;) {
-        m_lock = File(m_file + kLockEnd, GENERIC_WRITE | DELETE, 0, OPEN_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE);
+        m_lock = File(LockOf(m_file), GENERIC_WRITE | DELETE, 0, OPEN_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE);
         if (m_lock.IsOpen())
             return true;
         const DWORD error = GetLastError();
@@ -544,6 +543,11 @@ void Copy(const std::string& text, char (&to)[SaveOutcome::kPathCapacity])
 }
 
 } // namespace
+
+std::string LockOf(const std::string& file)
+{
+    return file + ".lock";
+}
 
 SaveOutcome SaveInOneStep(const std::string& file, std::span<const ProfileEntry> entries, std::uint64_t until)
 {

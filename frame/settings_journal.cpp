@@ -4,6 +4,7 @@
 #include <array>
 
 #include "frame/file_system.h"
+#include "frame/held_file.h"
 
 namespace pelmar {
 namespace {
@@ -41,6 +42,7 @@ bool SettingsJournal::Commit()
         return true;
     }
     ForgetPreview();
+    HeldFile::LetGoOfAll();
     const std::uint64_t until = Files().tickCount() + kWaitMilliseconds;
     SaveOutcome outcome;
     std::vector<Entry> unsaved;

@@ -1,23 +1,15 @@
-#include "frame/settings_reading.h"
+#include "PelmarDlgs/settings_reading.h"
 
-#include "frame/patience.h"
+#include "PelmarDlgs/settings_locations.h"
+#include "frame/held_file.h"
 
 namespace pelmar {
 
-SettingsReading::SettingsReading(const char* file)
-{
-    constexpr std::uint64_t kMilliseconds = 100;
-    Patience(Files().tickCount() + kMilliseconds).Insist([&] {
-        m_file = Files().createFile(file, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
-                                    nullptr);
-        return m_file != INVALID_HANDLE_VALUE;
-    });
-}
+SettingsReading::SettingsReading() : m_file(new HeldFile(GetSettingsLocations().settingsFile.c_str())) {}
 
 SettingsReading::~SettingsReading()
 {
-    if (m_file != INVALID_HANDLE_VALUE)
-        Files().closeHandle(m_file);
+    delete m_file;
 }
 
 } // namespace pelmar

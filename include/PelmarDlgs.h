@@ -56,4 +56,5 @@
 #include "PelmarDlgs/records/z_rough.h"
 #include "PelmarDlgs/saving.h"
 #include "PelmarDlgs/settings_locations.h"
+#include "PelmarDlgs/settings_reading.h"
 #include "PelmarDlgs/settings_values.h"

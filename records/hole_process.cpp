@@ -1,5 +1,6 @@
 #include "records/hole_process_facts.h"
 
+#include "PelmarDlgs/settings_reading.h"
 #include "PelmarDlgs/settings_values.h"
 #include "frame/settings_texts.h"
 #include "records/record_kind.h"
@@ -35,6 +36,7 @@ void HoleProcessDefsInfo::HoleProcessDefs_Save()
 
 void HoleProcessDefsInfo::HoleProcessDefs_Restore()
 {
+    const SettingsReading reading;
     // Not what was saved, which is in the system-wide profile: a settings file names a template of its own or none.
     StartupTemplate = ReadText(Facts::table.Section(), kTemplateKey).c_str();
     Facts::table.Restore(this);

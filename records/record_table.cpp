@@ -1,5 +1,7 @@
 #include "records/record_table.h"
 
+#include "PelmarDlgs/saving.h"
+#include "PelmarDlgs/settings_reading.h"
 #include "PelmarDlgs/settings_values.h"
 
 namespace pelmar {
@@ -26,6 +28,7 @@ void Read(void* record, const Option& option, const char* section, WholeReader r
 
 void RecordTable::Save(const void* record) const
 {
+    SaveStep step;
     for (const Option& option : m_options) {
         if (!option.key)
             continue;
@@ -34,10 +37,12 @@ void RecordTable::Save(const void* record) const
         else
             WriteReal(m_section, option.key, option.Real(record));
     }
+    step.Commit();
 }
 
 void RecordTable::Restore(void* record) const
 {
+    const SettingsReading reading;
     for (const Option& option : m_options)
         if (option.key)
             Read(record, option, m_section, ReadWhole, ReadReal);

@@ -32,9 +32,10 @@ public:
     constexpr const char* Operation() const { return m_operation; }
     constexpr std::span<const Option> Options() const { return m_options; }
 
-    /// Writes every key to the settings file, in the table's order.
+    /// Writes every key to the settings file, in the table's order and in one step. Where that fails, LastSave tells
+    /// why.
     void Save(const void* record) const;
-    /// Reads every key from the settings file; what is absent stays as it is. Nothing is converted.
+    /// Reads every key from one version of the settings file; what is absent stays as it is. Nothing is converted.
     void Restore(void* record) const;
     /// Reads every key but the units from the defaults file; what is absent stays as it is.
     void ReadDefaults(void* record) const;

@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "PelmarDlgs/saving.h"
+#include "PelmarDlgs/settings_reading.h"
 #include "PelmarDlgs/settings_values.h"
 #include "frame/settings_texts.h"
 
@@ -55,6 +57,17 @@ double RealIn(const MemoryFile& file, const char* section, const char* key, doub
 } // namespace
 
 namespace pelmar {
+
+// In memory every step is one.
+void BeginSave() {}
+bool CommitSave()
+{
+    return true;
+}
+void DropSave() {}
+
+SettingsReading::SettingsReading() : m_file(nullptr) {}
+SettingsReading::~SettingsReading() = default;
 
 bool WriteWhole(const char* section, const char* key, int value)
 {
