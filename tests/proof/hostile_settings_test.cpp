@@ -207,24 +207,45 @@ TEST_P(HostileSettings, AFolderInTheFilesPlaceKeepsTheRecordAndSavingDoesNoHarm)
     EXPECT_EQ(FileOf(entries), FileOf(Saved()));
 }
 
-/// Another program that lets nobody write keeps the file as read-only as the attribute does, whoever runs the tests.
 TEST_P(HostileSettings, AFileThatMayOnlyBeReadIsReadAndStaysAsItIs)
 {
     const auto units = std::ranges::find(entries, "Units", &Entry::key);
     const std::string metric = FileWith(static_cast<size_t>(units - entries.begin()), "1");
     host.WriteSettings(metric);
-    const HANDLE reader = CreateFileA(host.settings.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr);
-    ASSERT_NE(INVALID_HANDLE_VALUE, reader);
+    SetFileAttributesA(host.settings.c_str(), FILE_ATTRIBUTE_READONLY);
     record.restore();
     record.defaults();
     record.save();
+    EXPECT_EQ(pelmar::SaveFailure::ReadOnly, pelmar::LastSave().failure);
     EXPECT_EQ(metric, host.ReadSettings());
-    CloseHandle(reader);
+    SetFileAttributesA(host.settings.c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(FileOf(entries), FileOf(Saved()));
 }
 
 INSTANTIATE_TEST_SUITE_P(AllRecords, HostileSettings, testing::Range(size_t{0}, KeptRecords().size()));
+
+TEST(FileInUse, StaysAsItIsAndItsSaveMayBeTriedAgain)
+{
+    const HostFolder host;
+    for (const KeptRecord& record : KeptRecords())
+        record.defaults();
+    host.WriteSettings("[Other]\r\nKey=1\r\n");
+    const HANDLE reader = CreateFileA(host.settings.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    ASSERT_NE(INVALID_HANDLE_VALUE, reader);
+    pelmar::SaveStep step;
+    for (const KeptRecord& record : KeptRecords())
+        record.save();
+    const ULONGLONG start = GetTickCount64();
+    EXPECT_FALSE(step.Commit());
+    EXPECT_GE(GetTickCount64() - start, 4900u) << "others are waited for";
+    EXPECT_EQ(pelmar::SaveFailure::Replacing, pelmar::LastSave().failure);
+    EXPECT_EQ(host.settings, pelmar::LastSave().file);
+    EXPECT_EQ("[Other]\r\nKey=1\r\n", host.ReadSettings());
+    CloseHandle(reader);
+    EXPECT_TRUE(step.Commit());
+    EXPECT_LT(KeptRecords().size() * 5, EntriesOf(host.ReadSettings()).size());
+}
 
 /// The pages alone.
 class HostileRecordOnPage : public HostileSettings {};
