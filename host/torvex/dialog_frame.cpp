@@ -17,6 +17,7 @@ CDialogFrame::CDialogFrame(CWnd* parent, FramedDialog framed)
 BOOL CDialogFrame::OnInitDialog()
 {
     CDialog::OnInitDialog();
+    MarkAsDefaultsButton(::GetDlgItem(m_hWnd, IDC_PAGE_DEFAULTS));
     CString title;
     title.LoadString(m_framed.title);
     SetWindowText(title);
