@@ -48,7 +48,9 @@ bool SettingsJournal::Commit()
     std::vector<Entry> unsaved;
     while (!m_entries.empty()) {
         const std::string file = m_entries.front().file;
-        const SaveOutcome saved = Save(file, until);
+        SaveOutcome saved = Save(file, until);
+        if (!saved.keptAside[0])
+            std::ranges::copy(outcome.keptAside, saved.keptAside);
         const bool hasFailed = saved.failure != SaveFailure::None;
         if (outcome.failure == SaveFailure::None)
             outcome = saved;

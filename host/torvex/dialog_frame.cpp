@@ -21,7 +21,6 @@ BOOL CDialogFrame::OnInitDialog()
     CString title;
     title.LoadString(m_framed.title);
     SetWindowText(title);
-    MarkAsDefaultsButton(::GetDlgItem(m_hWnd, IDC_PAGE_DEFAULTS));
     if (!m_framed.dialog.Create(m_framed.templateId, this)) {
         EndDialog(IDCANCEL);
         return TRUE;

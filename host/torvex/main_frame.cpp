@@ -6,6 +6,7 @@
 #include "nc_dialogs.h"
 #include "option_pages.h"
 #include "options_sheet.h"
+#include "pending_save.h"
 #include "resource.h"
 #include "settings.h"
 #include "tool_library.h"
@@ -182,7 +183,7 @@ void CMainFrame::ChangeUnits(int units)
         page.convert(units);
     SetToolLibraryUnits(units);
     if (m_units != units)
-        SaveUnits(units);
+        PendingSave().Save(IDS_WHAT_UNITS, [units] { SaveUnits(units); });
     m_units = units;
     const UINT item = units == 1 ? ID_UNITS_MILLIMETRE : ID_UNITS_INCH;
     CheckMenuRadioItem(GetMenu(m_hWnd), ID_UNITS_INCH, ID_UNITS_MILLIMETRE, item, MF_BYCOMMAND);

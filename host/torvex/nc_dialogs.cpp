@@ -76,7 +76,6 @@ private:
         text.LoadString(IDS_PAGE_DEFAULTS);
         m_defaults.CreateEx(0, L"BUTTON", text, WS_CHILD | WS_VISIBLE | WS_TABSTOP, rect, this, IDC_PAGE_DEFAULTS);
         m_defaults.SendMessage(WM_SETFONT, static_cast<WPARAM>(this->SendMessage(WM_GETFONT)), TRUE);
-        MarkAsDefaultsButton(m_defaults.m_hWnd);
     }
 
     Kept<Data> m_kept;
@@ -107,7 +106,8 @@ void ShowDefaultTools(CWnd* parent, int units)
     // The dialog opens in the units of the tool library, which stays in those that the dialog last had.
     SetToolLibraryUnits(units);
     CWithDefaults<CDefsNCToolsDlg>(parent, {DefaultTools(), IDS_WHAT_DEFAULT_TOOLS, SaveDefaultTools}).DoModal();
-    SaveBallToolSwitch(); // a click in a tool list counts at once
+    // A click in a tool list counts at once, whatever the dialog was left with.
+    PendingSave().Save(IDS_WHAT_TOOL_LISTS, SaveBallToolSwitch);
 }
 
 void ShowDefaultsFileChooser(CWnd* parent)

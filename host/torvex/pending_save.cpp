@@ -1,7 +1,5 @@
 #include "pending_save.h"
 
-#include <PelmarDlgs.h>
-
 #include "save_report.h"
 
 using namespace pelmar;
@@ -12,10 +10,9 @@ SaveResult ResultOf(const SaveOutcome& outcome)
 {
     SaveResult result;
     result.saved = outcome.failure == SaveFailure::None;
-    result.file = outcome.file;
-    if (!result.saved)
-        result.reason = SystemReason(outcome.systemError);
-    result.keptAside = outcome.keptAside;
+    result.file = CString(outcome.file);
+    result.reason = SystemReason(outcome.systemError);
+    result.keptAside = CString(outcome.keptAside);
     return result;
 }
 
@@ -23,10 +20,14 @@ SaveResult ResultOf(const SaveOutcome& outcome)
 
 bool PendingSave::Save(UINT what, const std::function<void()>& store)
 {
-    SaveStep step;
+    if (!m_step)
+        m_step.emplace();
     store();
-    return SaveAndReport(what, [&step] {
-        step.Commit();
+    const bool saved = SaveAndReport(what, [this] {
+        m_step->Commit();
         return ResultOf(LastSave());
     });
+    if (saved)
+        m_step.reset();
+    return saved;
 }

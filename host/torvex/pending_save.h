@@ -2,14 +2,20 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <afxwin.h>
 
-/// Saves for a window, and has it stay open where that fails.
+#include <PelmarDlgs/saving.h>
+
+/// Saves for a window in one step, and has it stay open where that fails. What could not be saved is kept for the
+/// window's next OK, and forgotten when the window goes.
 class PendingSave {
 public:
-    /// Calls `store` once, saves in one step all that it stores, and reports where that fails; the user may try again.
-    /// `what`: string id of what is saved. False where he has given up: what is gathered is dropped, the values stay in
-    /// memory, the window stays open, and its next OK comes here again.
+    /// Calls `store`, which saves, and reports where that fails; the user may try again. `what`: string id of what is
+    /// saved. False where he has given up: the window stays open, and its next OK comes here again.
     bool Save(UINT what, const std::function<void()>& store);
+
+private:
+    std::optional<pelmar::SaveStep> m_step;
 };

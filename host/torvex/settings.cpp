@@ -74,16 +74,11 @@ void SaveUnits(int units)
     WriteHostWhole(kSection, kUnitsKey, units);
 }
 
-CString FullPath(const char* path)
-{
-    wchar_t full[1284];
-    const DWORD length = GetFullPathName(CString(path), 1284, full, nullptr);
-    return length > 0 && length < 1284 ? CString(full) : CString(path);
-}
-
 CString NcSettingsPath()
 {
-    return FullPath(NcFile());
+    wchar_t path[1284];
+    const DWORD length = GetFullPathName(CString(NcFile()), 1284, path, nullptr);
+    return length > 0 && length < 1284 ? CString(path) : CString(NcFile());
 }
 
 CString NcSettingsText()

@@ -7,8 +7,8 @@
 /// tool library is missing.
 void StartNcModule();
 
-/// A whole number of the host's settings file. Reading yields the fallback where it is absent; writing is false where
-/// the system refuses.
+/// A whole number of the host's settings file. Reading yields the fallback where it is absent; writing is part of the
+/// save that is under way, and false where it cannot be saved.
 int ReadHostWhole(const char* section, const char* key, int fallback);
 bool WriteHostWhole(const char* section, const char* key, int value);
 
@@ -18,9 +18,6 @@ bool HostSetting(const char* section, const char* key);
 /// The units in which the user works: 0 inch, 1 millimetre.
 int LoadUnits();
 void SaveUnits(int units);
-
-/// A path of the settings locations as the user knows it: from the drive on.
-CString FullPath(const char* path);
 
 /// The file in which the NC options are saved, and what it holds; the text is empty while there is no file.
 CString NcSettingsPath();

@@ -245,6 +245,16 @@ TEST_F(JournalTest, TellsWhereTheFirstDamagedFileOfAStepWasKept)
     EXPECT_STREQ("", journal.Last().keptAside);
 }
 
+TEST_F(JournalTest, AWholeFileThatIsSavedAfterADamagedOneLeavesItsTrace)
+{
+    folder.Write("[A]\r\nFirst=1\r\nSec");
+    journal.Begin();
+    Write("First", "10");
+    Write("First", "20", Other());
+    EXPECT_TRUE(journal.Commit());
+    EXPECT_EQ("[A]\r\nFirst=1\r\nSec", ReadBytes(journal.Last().keptAside));
+}
+
 TEST_F(JournalTest, AStepWaitsFiveSecondsForAllItsFiles)
 {
     folder.Write("");

@@ -47,6 +47,22 @@ private:
     HANDLE m_handle;
 };
 
+/// A folder that is out of reach for a while, as a share is.
+class AbsentFolder {
+public:
+    explicit AbsentFolder(const fs::path& folder) : m_folder(folder), m_elsewhere(folder.wstring() + L".away")
+    {
+        fs::rename(m_folder, m_elsewhere);
+    }
+    ~AbsentFolder() { fs::rename(m_elsewhere, m_folder); }
+    AbsentFolder(const AbsentFolder&) = delete;
+    AbsentFolder& operator=(const AbsentFolder&) = delete;
+
+private:
+    fs::path m_folder;
+    fs::path m_elsewhere;
+};
+
 /// Room in the memory of another program for what its windows read and write by address.
 class RemoteItem {
 public:
@@ -344,6 +360,25 @@ TEST_F(Torvex, AsksForANumberInRussian)
     const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
     EXPECT_EQ(L"Введите число.", box.text);
     ui::Answer(box, IDOK);
+}
+
+TEST_F(Torvex, AMistakeGivesOnePromptWhicheverWayOkIsPressed)
+{
+    Start();
+    OpenOptions();
+    for (const bool byMouse : {false, true}) {
+        Type(IDC_2X_SIDE_ROUGH_STEP, L"x");
+        if (byMouse)
+            ui::Click(m_sheet, IDOK);
+        else
+            ui::Press(ui::Control(m_page, IDC_2X_SIDE_ROUGH_STEP), VK_RETURN);
+        ui::Answer(ui::WaitForBox(m_process.dwProcessId), IDOK);
+        EXPECT_FALSE(ui::IsBoxOpen(m_process.dwProcessId)) << byMouse;
+        EXPECT_TRUE(IsWindow(m_sheet)) << byMouse;
+    }
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
+    EXPECT_FALSE(fs::exists(NcFile()));
 }
 
 TEST_F(Torvex, ShowsAndSavesInTheUnitsOfTheMenuAndKeepsThem)
@@ -870,7 +905,7 @@ TEST_F(Torvex, ASheetThatCouldNotBeSavedTellsTheFileAndTheReasonAndStaysOpen)
     EXPECT_EQ(0u, Close());
 }
 
-TEST_F(Torvex, TryingAgainSavesAsSoonAsTheFileIsFreeAndClosesTheSheet)
+TEST_F(Torvex, TryingAgainSavesAsSoonAsTheFolderIsThereAndClosesTheSheet)
 {
     WriteNcFile(L"CURRENT.INI", "[Options2x]\r\nSideRoughStep=0.3\r\n");
     Start();
@@ -878,7 +913,7 @@ TEST_F(Torvex, TryingAgainSavesAsSoonAsTheFileIsFreeAndClosesTheSheet)
     Type(IDC_2X_SIDE_ROUGH_STEP, L"0.5");
     ui::MessageBoxSeen box;
     {
-        const HeldFile held(NcFile());
+        const AbsentFolder absent(NcFile().parent_path());
         ui::Press(ui::Control(m_page, IDC_2X_SIDE_ROUGH_STEP), VK_RETURN);
         box = ui::WaitForBox(m_process.dwProcessId);
     }
@@ -897,7 +932,7 @@ TEST_F(Torvex, AnApplyThatCouldNotBeSavedCanBePressedAgain)
     ui::Choose(m_page, IDC_2X_SIDE_ROUGH_STEP_TYPE, 0);
     ASSERT_TRUE(ui::WaitUntil([&] { return ui::IsEnabled(m_sheet, kApplyButton); }));
     {
-        const HeldFile held(NcFile());
+        const AbsentFolder absent(NcFile().parent_path());
         ui::Click(m_sheet, kApplyButton);
         ui::Answer(ui::WaitForBox(m_process.dwProcessId), IDCANCEL);
         ASSERT_TRUE(ui::WaitUntil([&] { return ui::IsEnabled(m_sheet, kApplyButton); }));
@@ -916,7 +951,7 @@ TEST_F(Torvex, GivingUpASaveKeepsTheValuesInMemory)
     OpenOptions();
     Type(IDC_2X_SIDE_ROUGH_STEP, L"0.5");
     {
-        const HeldFile held(NcFile());
+        const AbsentFolder absent(NcFile().parent_path());
         ui::Click(m_sheet, IDOK);
         ui::Answer(ui::WaitForBox(m_process.dwProcessId), IDCANCEL);
         ui::Settle(m_sheet);
@@ -947,7 +982,7 @@ TEST_F(Torvex, ADialogThatCouldNotBeSavedStaysOpenUntilItIs)
     for (const Case& one : kCases) {
         const HWND dialog = OpenDialog(one.command, one.title);
         {
-            const HeldFile held(NcFile());
+            const AbsentFolder absent(NcFile().parent_path());
             ui::Click(dialog, IDOK);
             const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
             EXPECT_NE(std::wstring::npos, box.text.find(std::wstring(L"Не сохранено: ") + one.what + L"."));
@@ -959,6 +994,68 @@ TEST_F(Torvex, ADialogThatCouldNotBeSavedStaysOpenUntilItIs)
         EXPECT_TRUE(ComesToWrite(one.line));
         EXPECT_EQ(0u, NcText().find("[Mine]\r\nKept=1\r\n"));
     }
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, WhatADialogStoredBeforeTheUserGaveUpIsSavedByItsNextOk)
+{
+    Start();
+    HWND dialog = OpenNcDefaults();
+    ui::Click(dialog, IDC_NCDEF_MENU);
+    {
+        const AbsentFolder absent(NcFile().parent_path());
+        ui::Click(dialog, IDOK);
+        ui::Answer(ui::WaitForBox(m_process.dwProcessId), IDYES);
+        const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+        EXPECT_NE(std::wstring::npos, box.text.find(L"Не сохранено"));
+        ui::Answer(box, IDCANCEL);
+        ui::Settle(dialog);
+    }
+    Accept(dialog);
+    EXPECT_NE(std::string::npos, HostText().find("NcDisplayMode=1\r\n"));
+    EXPECT_TRUE(ComesToWrite("FilterSpans=0"));
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, UnitsThatCouldNotBeSavedAreToldOfAndInUse)
+{
+    std::ofstream(m_folder / L"TORVEXCore.INI") << "[Settings]\r\nUnits=0\r\n";
+    Start();
+    {
+        const HeldFile held(m_folder / L"TORVEXCore.INI");
+        Command(ID_UNITS_MILLIMETRE);
+        const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+        EXPECT_EQ(0u, box.text.find(L"Не сохранено: Единицы измерения.\n"));
+        ui::Answer(box, IDCANCEL);
+        ui::Settle(m_main);
+    }
+    OpenOptions();
+    EXPECT_EQ(L"25.0000", ui::TextOf(m_page, IDC_2X_RAPID_PLANE));
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(Torvex, TellsWhereADamagedFileWasKeptWhenItIsFirstSaved)
+{
+    const std::string damaged = "[Options2x]\r\nRapidPlane=2.000000\r\nSideRou";
+    WriteNcFile(L"CURRENT.INI", damaged);
+    Start();
+    OpenOptions();
+    EXPECT_EQ(L"2.0000", ui::TextOf(m_page, IDC_2X_RAPID_PLANE));
+    ui::Click(m_sheet, IDOK);
+    const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+    EXPECT_NE(std::wstring::npos, box.text.find(L"был повреждён"));
+    std::wstring kept;
+    for (const fs::directory_entry& file : fs::directory_iterator(NcFile().parent_path()))
+        if (file.path() != NcFile() && fs::file_size(file) == damaged.size())
+            kept = file.path().wstring();
+    EXPECT_NE(L"", kept);
+    EXPECT_NE(std::wstring::npos, box.text.find(kept)) << "the new name";
+    ui::Answer(box, IDOK);
+    EXPECT_TRUE(ui::WaitForClose(m_sheet));
+    EXPECT_TRUE(ComesToWrite("RapidPlane=2.000000"));
+    OpenOptions();
+    CloseOptions(IDOK); // and says nothing more
     EXPECT_EQ(0u, Close());
 }
 
