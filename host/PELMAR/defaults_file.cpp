@@ -1,7 +1,9 @@
 #include "defaults_file.h"
 
 #include <algorithm>
+#include <vector>
 
+#include "frame/file_step.h"
 #include "module.h"
 
 namespace pelmar {
@@ -87,19 +89,16 @@ bool WriteDefaults(const TemplateDefaults& record)
     if (file.empty())
         return false;
     const std::string section = SectionOf(record);
-    const auto write = [&](const char* key, const std::string& text) {
-        return WritePrivateProfileStringA(section.c_str(), key, text.c_str(), file.c_str());
-    };
-    for (const TextField& row : kTexts)
+    std::vector<ProfileEntry> entries;
+    for (const TextField& row : kTexts) {
         if (!CanBeKept(record.*row.field))
             return false;
-    for (const TextField& row : kTexts)
-        if (!write(row.key, '"' + record.*row.field + '"'))
-            return false;
+        entries.push_back({section, row.key, '"' + record.*row.field + '"'});
+    }
     for (const NumberField& row : kNumbers)
-        if (!write(row.key, std::to_string(record.*row.field)))
-            return false;
-    return true;
+        entries.push_back({section, row.key, std::to_string(record.*row.field)});
+    constexpr ULONGLONG kPatience = 5000;
+    return SaveInOneStep(file, entries, GetTickCount64() + kPatience).failure == SaveFailure::None;
 }
 
 } // namespace pelmar
