@@ -68,7 +68,7 @@ TEST(RoundMillRecord, ASideClearanceInTheTwoAxisSectionThatIsNoNumberKeepsTheFie
 
 // ---- the pages ----
 
-template <class Mill> class FinishPassesPage : public FeatureMillPageTest<Mill> {
+template <class Mill> class FinishPassesPage : public EveryPage<Mill> {
 };
 using MillsWithFinishPasses = testing::Types<ChamferMill, RoundMill>;
 TYPED_TEST_SUITE(FinishPassesPage, MillsWithFinishPasses);
@@ -88,7 +88,7 @@ TYPED_TEST(FinishPassesPage, TheNumberOfFinishPassesIsAWholeNumberOfAnySign)
     EXPECT_EQ(-3, TypeParam::Live()->FinishPassZ);
 }
 
-class RoundMillPage : public FeatureMillPageTest<RoundMill> {
+class RoundMillPage : public EveryPage<RoundMill> {
 protected:
     /// The notification that the list would send if it had the id that it has on the 2-axis page.
     static void NotifyAsOn2Axis(OpenSheet& sheet)

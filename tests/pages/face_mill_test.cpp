@@ -48,7 +48,7 @@ TEST(FaceMillRecord, ConvertingLeavesARoughDepthThatIsAMultipleOfTheToolRadius)
 
 // ---- the page ----
 
-class FaceMillPage : public FeatureMillPageTest<FaceMill> {};
+class FaceMillPage : public EveryPage<FaceMill> {};
 
 TEST_F(FaceMillPage, HighSpeedMachiningAndTheRetractThresholdAreNeverShown)
 {
@@ -118,7 +118,7 @@ TEST_F(FaceMillPage, LeavingTheHiddenThresholdShowsItsValue)
 
 TEST_F(FaceMillPage, OnlyTheHiddenListMarksThePageModified)
 {
-    // The others do not: EveryListKeepsTheChosenItemAndDoesNotMarkThePageModified.
+    // The others do not: EveryListShowsItsItemsInOrderAndKeepsTheChosenOne.
     CheckLists({{4458, &CFaceMillDefsInfo::FeedBetweenType, kLengthTypeItems}}, Marking::Modified);
 }
 

@@ -16,12 +16,12 @@ TYPED_TEST(GrooveSlotRecord, DepthAndPlungeClearanceAreScaledWhateverTheirTypesA
         typename TypeParam::Record options;
         options.*TypeParam::depthType = type;
         options.PlungeClearType = type;
-        (options.*TypeParam::checkUnits)(1);
+        (options.*TypeParam::operations.convert)(1);
         EXPECT_EQ(31.25, options.*TypeParam::depth);
         EXPECT_EQ(2.5, options.PlungeClear);
         EXPECT_EQ(7.0, options.DefRampAngle);
         EXPECT_EQ(0.8, options.DefMaxRoughDOC);
-        (options.*TypeParam::checkUnits)(0);
+        (options.*TypeParam::operations.convert)(0);
         EXPECT_EQ(1.25, options.*TypeParam::depth);
         EXPECT_EQ(0.1, options.PlungeClear);
     }
@@ -30,7 +30,7 @@ TYPED_TEST(GrooveSlotRecord, DepthAndPlungeClearanceAreScaledWhateverTheirTypesA
 TYPED_TEST(GrooveSlotRecord, AMetricDefaultsFileWithoutValuesScalesTheBuiltInOnesWhereTheHostIsMetric)
 {
     const HostFolder host;
-    host.WriteDefaults(std::string("[") + TypeParam::section + "]\r\nUnits=1\r\n");
+    host.WriteDefaults(HeaderOf(TypeParam::operations.fresh) + "Units=1\r\n");
     ui::UiThread::Get().Call([] { typename TypeParam::Page().GetData(1); });
     typename TypeParam::Record options;
     options.Defaults();
@@ -56,7 +56,7 @@ TEST(SlotMillRecord, AFreshOneIsCentredAtTheTop)
 
 // ---- the pages ----
 
-template <class Mill> class GrooveSlotPage : public FeatureMillPageTest<Mill> {
+template <class Mill> class GrooveSlotPage : public EveryPage<Mill> {
 };
 TYPED_TEST_SUITE(GrooveSlotPage, Mills);
 

@@ -1,6 +1,7 @@
 #include <filesystem>
 
-#include "pages/page_checks.h"
+#include "pages/page_suite.h"
+#include "pages/record_suite.h"
 
 namespace fs = std::filesystem;
 
@@ -32,6 +33,158 @@ private:
     std::string m_before;
 };
 
+constexpr char kGeneralTopic[] = "HM_Tools_defaults_hole_processing.htm";
+constexpr char kOptionsTopic[] = "pelmar-_options_hole_processing_options.htm";
+
+constexpr int kTemplate = 4606;
+constexpr int kChooseTemplate = 4607;
+constexpr int kRecalcAuto = 4608;
+constexpr int kSortType = 4605;
+constexpr int kBidirectional = 4277;
+constexpr int kUseBandWidth = 4371;
+constexpr int kBandWidth = 4373;
+constexpr int kSortReverse = 4713;
+constexpr int kSortBias = 4714;
+constexpr int kAccurateMode = 4359;
+constexpr int kAccurateDistance = 4363;
+constexpr int kAccurateFeedRate = 4365;
+
+// In the order of the directions.
+constexpr int kMajor[] = {4280, 4281, 4282, 4283};
+constexpr int kStep[] = {4286, 4287, 4284, 4285};
+constexpr int kAccurate[] = {4289, 4332, 4333, 4334};
+constexpr int kAxisIcons[] = {4210, 4211, 4213, 4214};
+constexpr int kAxisIconsChosen[] = {4219, 4220, 4221, 4222};
+constexpr int kApproachIcons[] = {4218, 4216, 4217, 4215};
+constexpr int kApproachIconsChosen[] = {4227, 4224, 4226, 4223};
+
+Record Manual()
+{
+    Record record;
+    record.SortType = 0;
+    return record;
+}
+
+Record Accurate()
+{
+    Record record;
+    record.AccurateMode = 1;
+    return record;
+}
+
+std::vector<Topic> WithTopicsOfDirections(std::vector<Topic> topics)
+{
+    for (const int button : kMajor)
+        topics.push_back({button, "pelmar-_holeprocessing_hidc_hp_major_dir.htm"});
+    for (const int button : kStep)
+        topics.push_back({button, "pelmar-_holeprocessing_hidc_hp_step_dir.htm"});
+    for (const int button : kAccurate)
+        topics.push_back({button, "pelmar-_holeprocessing_hidc_hp_accurate_dir.htm"});
+    return topics;
+}
+
+struct HoleProcess : OperationOf<HoleProcessDefsInfo, DefsHoleProcessPage> {
+    using R = Record;
+    static constexpr auto Live = GetLastHoleProcessDefsInfo;
+    static inline const Operations operations = {"[HoleProcessLocation]\r\n"
+                                                 "Units=0\r\n"
+                                                 "RecalcAuto=1\r\n"
+                                                 "SortType=2\r\n"
+                                                 "MajorDir=0\r\n"
+                                                 "StepDir=2\r\n"
+                                                 "Bidirectional=1\r\n"
+                                                 "UseBandWidth=1\r\n"
+                                                 "BandWidth=1.000000\r\n"
+                                                 "AccurateMode=0\r\n"
+                                                 "AccurateDir=2\r\n"
+                                                 "AccurateDist=0.100000\r\n"
+                                                 "AccurateFeedRate=10.000000\r\n"
+                                                 "SortReverse=0\r\n"
+                                                 "SortBiasToVector=0\r\n",
+                                                 &R::Defaults, &R::HoleProcessDefs_Save, &R::HoleProcessDefs_Restore,
+                                                 &R::HoleProcessDefsCheckUnits};
+    static inline const std::string changed = "[HoleProcessLocation]\r\n"
+                                              "Units=1\r\n"
+                                              "RecalcAuto=0\r\n"
+                                              "SortType=1\r\n"
+                                              "MajorDir=3\r\n"
+                                              "StepDir=1\r\n"
+                                              "Bidirectional=0\r\n"
+                                              "UseBandWidth=0\r\n"
+                                              "BandWidth=2.500000\r\n"
+                                              "AccurateMode=1\r\n"
+                                              "AccurateDir=3\r\n"
+                                              "AccurateDist=3.500000\r\n"
+                                              "AccurateFeedRate=4.500000\r\n"
+                                              "SortReverse=1\r\n"
+                                              "SortBiasToVector=1\r\n";
+    static inline const FileRules rules{.ownRules = {"SortType", "MajorDir", "StepDir", "AccurateDir"},
+                                        .notInDefaults = {"RecalcAuto"},
+                                        .unitsSection = "HoleProcess"};
+    static inline const Fields fields = {{"RecalcAuto", &R::RecalcAuto},
+                                         {"SortType", &R::SortType},
+                                         {"MajorDir", &R::MajorDir},
+                                         {"StepDir", &R::StepDir},
+                                         {"Bidirectional", &R::Bidirectional},
+                                         {"UseBandWidth", &R::UseBandWidth},
+                                         {"BandWidth", &R::BandWidth},
+                                         {"AccurateMode", &R::AccurateMode},
+                                         {"AccurateDir", &R::AccurateDir},
+                                         {"AccurateDist", &R::AccurateDist},
+                                         {"AccurateFeedRate", &R::AccurateFeedRate},
+                                         {"SortReverse", &R::SortReverse},
+                                         {"SortBiasToVector", &R::SortBiasToVector}};
+    static inline const Lengths lengths = {{&R::BandWidth}, {&R::AccurateDist}, {&R::AccurateFeedRate}};
+
+    using Surroundings = SystemTemplate;
+    static constexpr int templateId = 4159;
+    static constexpr wchar_t title[] = L"По умолчанию";
+    static constexpr int other = kSortType;
+    static R AllEditsEnabled() { return Accurate(); }
+    static inline const Sample<R> sample = {kBandWidth, "BandWidth", &R::BandWidth, L"1/8+0.02",
+                                            0.145,      L"0.1450",   "0.145000"};
+    static inline const Reals otherReals = {{kBandWidth, &R::BandWidth, L"1.0000"},
+                                            {kAccurateDistance, &R::AccurateDist, L"0.1000"},
+                                            {kAccurateFeedRate, &R::AccurateFeedRate, L"10.0000"}};
+    static inline const Lists lists = {{kSortType, &R::SortType, {L"Ручная", L"Расстояние", L"Ортогональная"}}};
+    /// None is manual.
+    static int LeftWithoutSelection(int) { return 0; }
+    static inline const std::vector<std::pair<std::string, std::string>> whereMissing = {{"SortType", "0"}};
+    static inline const Boxes boxes = {{kAccurateMode, &R::AccurateMode},
+                                       {kUseBandWidth, &R::UseBandWidth},
+                                       {kBidirectional, &R::Bidirectional, 1, 0, Marking::Nothing},
+                                       {kSortReverse, &R::SortReverse, 1, 0, Marking::Nothing},
+                                       {kSortBias, &R::SortBiasToVector, 1, 0, Marking::Nothing},
+                                       {kRecalcAuto, &R::RecalcAuto, 1, 0, Marking::Nothing}};
+    static inline const std::vector<Bound> bounds = {
+        {kBandWidth, L"-0.0001", L"0", L"0.0000", kShownUnbounded},
+        {kBandWidth, L"4.0e38", L"3.4028234663852886e38", L"0.0000", kShownUnbounded},
+        {kAccurateDistance, L"-1", L"0", L"0.0000", kShownUnbounded},
+        {kAccurateFeedRate, L"-0.0001", L"0", L"0.0000", kShownUnbounded}};
+    static inline const std::vector<Refusal> refusals = {{kBandWidth, L"wide", kEnterNumber}};
+    static inline const std::vector<Topic> topics = WithTopicsOfDirections({
+        {0, kGeneralTopic},
+        {kSortType, kOptionsTopic},
+        {kTemplate, kOptionsTopic},
+        {kRecalcAuto, kOptionsTopic},
+        {kSortReverse, kOptionsTopic},
+        {kSortBias, kOptionsTopic},
+        {kBidirectional, "pelmar-_holeprocessing_hidc_hp_bidirectional.htm"},
+        {kAccurateFeedRate, "pelmar-_holeprocessing_hidc_hp_accurate_feedrate.htm"},
+        {kBandWidth, "pelmar-_holeprocessing_hidc_hp_bandwidth.htm"},
+        {kAccurateDistance, kGeneralTopic},
+        {kAccurateMode, kGeneralTopic},
+        {kUseBandWidth, kGeneralTopic},
+        {kChooseTemplate, kGeneralTopic},
+    });
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(HoleProcess, EveryRecord, HoleProcess);
+INSTANTIATE_TYPED_TEST_SUITE_P(HoleProcess, RecordOfLengths, HoleProcess);
+INSTANTIATE_TYPED_TEST_SUITE_P(HoleProcess, EveryPage, HoleProcess);
+INSTANTIATE_TYPED_TEST_SUITE_P(HoleProcess, PageWithBoxes, HoleProcess);
+INSTANTIATE_TYPED_TEST_SUITE_P(HoleProcess, PageWithRefusals, HoleProcess);
+
 // ---- the record ----
 
 class HoleRecord : public testing::Test {
@@ -49,21 +202,7 @@ protected:
     SystemTemplate systemTemplate;
 };
 
-constexpr char kFreshFile[] = "[HoleProcessLocation]\r\n"
-                              "Units=0\r\n"
-                              "RecalcAuto=1\r\n"
-                              "SortType=2\r\n"
-                              "MajorDir=0\r\n"
-                              "StepDir=2\r\n"
-                              "Bidirectional=1\r\n"
-                              "UseBandWidth=1\r\n"
-                              "BandWidth=1.000000\r\n"
-                              "AccurateMode=0\r\n"
-                              "AccurateDir=2\r\n"
-                              "AccurateDist=0.100000\r\n"
-                              "AccurateFeedRate=10.000000\r\n"
-                              "SortReverse=0\r\n"
-                              "SortBiasToVector=0\r\n";
+const std::string& kFreshFile = HoleProcess::operations.fresh;
 
 TEST_F(HoleRecord, AFreshOneSavesItsBuiltInValuesInOrderAndNoTemplate)
 {
@@ -107,55 +246,6 @@ TEST_F(HoleRecord, ATemplateOfAnyLengthIsSaved)
     options.HoleProcessDefs_Save();
     EXPECT_EQ(options.StartupTemplate.GetString(), SystemTemplate::Text());
     EXPECT_EQ(kFreshFile, host.ReadSettings());
-}
-
-TEST_F(HoleRecord, RestoresEveryKey)
-{
-    const std::string file = "[HoleProcessLocation]\r\n"
-                             "Units=1\r\n"
-                             "RecalcAuto=0\r\n"
-                             "SortType=1\r\n"
-                             "MajorDir=3\r\n"
-                             "StepDir=1\r\n"
-                             "Bidirectional=0\r\n"
-                             "UseBandWidth=0\r\n"
-                             "BandWidth=2.500000\r\n"
-                             "AccurateMode=1\r\n"
-                             "AccurateDir=3\r\n"
-                             "AccurateDist=3.500000\r\n"
-                             "AccurateFeedRate=4.500000\r\n"
-                             "SortReverse=1\r\n"
-                             "SortBiasToVector=1\r\n";
-    host.WriteSettings(file);
-    options.HoleProcessDefs_Restore();
-    EXPECT_EQ(1, options.Units);
-    EXPECT_EQ(0, options.RecalcAuto);
-    EXPECT_EQ(1, options.SortType);
-    EXPECT_EQ(3, options.MajorDir);
-    EXPECT_EQ(1, options.StepDir);
-    EXPECT_EQ(0, options.Bidirectional);
-    EXPECT_EQ(0, options.UseBandWidth);
-    EXPECT_EQ(2.5, options.BandWidth);
-    EXPECT_EQ(1, options.AccurateMode);
-    EXPECT_EQ(3, options.AccurateDir);
-    EXPECT_EQ(3.5, options.AccurateDist);
-    EXPECT_EQ(4.5, options.AccurateFeedRate);
-    EXPECT_EQ(1, options.SortReverse);
-    EXPECT_EQ(1, options.SortBiasToVector);
-    host.WriteSettings("");
-    options.HoleProcessDefs_Save();
-    EXPECT_EQ(file, host.ReadSettings());
-}
-
-TEST_F(HoleRecord, AnAbsentKeyStaysAsItWas)
-{
-    host.WriteSettings("[HoleProcessLocation]\r\nBandWidth=0.5\r\n");
-    options.SortType = 1;
-    options.AccurateDist = 7.25;
-    options.HoleProcessDefs_Restore();
-    EXPECT_EQ(0.5, options.BandWidth);
-    EXPECT_EQ(1, options.SortType);
-    EXPECT_EQ(7.25, options.AccurateDist);
 }
 
 TEST_F(HoleRecord, ACurrentValueOutOfRangeIsSanitizedLikeAStoredOne)
@@ -223,38 +313,6 @@ TEST_F(HoleRecord, WhatIsNoDirectionTurnsNothing)
         options.Sync();
         EXPECT_EQ(row.expectedStep, options.StepDir) << row.major << " " << row.step;
     }
-}
-
-TEST_F(HoleRecord, ConvertingScalesItsThreeLengthsThereAndBackExactly)
-{
-    options.HoleProcessDefsCheckUnits(1);
-    EXPECT_EQ(1, options.Units);
-    EXPECT_EQ(25.0, options.BandWidth);
-    EXPECT_EQ(2.5, options.AccurateDist);
-    EXPECT_EQ(250.0, options.AccurateFeedRate);
-    options.HoleProcessDefsCheckUnits(0);
-    EXPECT_EQ(0, options.Units);
-    EXPECT_EQ(1.0, options.BandWidth);
-    EXPECT_EQ(0.1, options.AccurateDist);
-    EXPECT_EQ(10.0, options.AccurateFeedRate);
-}
-
-TEST_F(HoleRecord, ConvertingToItsOwnUnitsChangesNothingAndFromAnOddCodeCountsAsMillimetre)
-{
-    options.HoleProcessDefsCheckUnits(0);
-    EXPECT_EQ(1.0, options.BandWidth);
-    options.Units = 7;
-    options.HoleProcessDefsCheckUnits(1);
-    EXPECT_EQ(1, options.Units);
-    EXPECT_EQ(0.04, options.BandWidth);
-}
-
-TEST_F(HoleRecord, RestoringAMetricFileScalesNothing)
-{
-    const Record record = Restored("Units=1\r\nBandWidth=2.5\r\n");
-    EXPECT_EQ(1, record.Units);
-    EXPECT_EQ(2.5, record.BandWidth);
-    EXPECT_EQ(10.0, record.AccurateFeedRate);
 }
 
 TEST_F(HoleRecord, DefaultsWithoutAFileAreTheBuiltInValuesButKeepTheTemplate)
@@ -336,17 +394,6 @@ TEST_F(HoleRecord, ADefaultsFileWithoutUnitsIsInThoseThatTheRecordHad)
     EXPECT_EQ(1.0, options.BandWidth);
 }
 
-TEST_F(HoleRecord, RealsThatAreNoNumbersKeepTheirValue)
-{
-    CheckHostileReals(host, kFreshFile, &Record::HoleProcessDefs_Restore, &Record::HoleProcessDefs_Save);
-}
-
-TEST_F(HoleRecord, OtherWholeNumbersAreTakenAsThePlatformReadsThem)
-{
-    CheckWholeNumbers(host, kFreshFile, &Record::HoleProcessDefs_Restore, &Record::HoleProcessDefs_Save,
-                      {"SortType", "MajorDir", "StepDir", "AccurateDir"});
-}
-
 TEST_F(HoleRecord, ACopyHoldsEveryFieldTheTemplateIncluded)
 {
     options = Restored("Units=1\r\nSortBiasToVector=1\r\nBandWidth=2.5\r\nStartupTemplate=C:\\a.tvhpt\r\n");
@@ -361,35 +408,7 @@ TEST_F(HoleRecord, ACopyHoldsEveryFieldTheTemplateIncluded)
     }
 }
 
-TEST_F(HoleRecord, TheLiveInstanceIsAlwaysTheSame)
-{
-    EXPECT_NE(nullptr, GetLastHoleProcessDefsInfo());
-    EXPECT_EQ(GetLastHoleProcessDefsInfo(), GetLastHoleProcessDefsInfo());
-}
-
 // ---- the page ----
-
-constexpr int kTemplate = 4606;
-constexpr int kChooseTemplate = 4607;
-constexpr int kRecalcAuto = 4608;
-constexpr int kSortType = 4605;
-constexpr int kBidirectional = 4277;
-constexpr int kUseBandWidth = 4371;
-constexpr int kBandWidth = 4373;
-constexpr int kSortReverse = 4713;
-constexpr int kSortBias = 4714;
-constexpr int kAccurateMode = 4359;
-constexpr int kAccurateDistance = 4363;
-constexpr int kAccurateFeedRate = 4365;
-
-// In the order of the directions.
-constexpr int kMajor[] = {4280, 4281, 4282, 4283};
-constexpr int kStep[] = {4286, 4287, 4284, 4285};
-constexpr int kAccurate[] = {4289, 4332, 4333, 4334};
-constexpr int kAxisIcons[] = {4210, 4211, 4213, 4214};
-constexpr int kAxisIconsChosen[] = {4219, 4220, 4221, 4222};
-constexpr int kApproachIcons[] = {4218, 4216, 4217, 4215};
-constexpr int kApproachIconsChosen[] = {4227, 4224, 4226, 4223};
 
 /// The number of the library's icon that a button shows; 0 for none of them.
 int IconOf(HWND page, int button)
@@ -402,24 +421,8 @@ int IconOf(HWND page, int button)
     return 0;
 }
 
-Record Manual()
-{
-    Record record;
-    record.SortType = 0;
-    return record;
-}
-
-Record Accurate()
-{
-    Record record;
-    record.AccurateMode = 1;
-    return record;
-}
-
-class HolePage : public OptionPageTest<DefsHoleProcessPage, Record, GetLastHoleProcessDefsInfo> {
+class HolePage : public EveryPage<HoleProcess> {
 protected:
-    int OtherControl(int) override { return kSortType; }
-
     /// `chosen` is highlighted and nothing else of the row; no direction at all where it is out of range.
     static void ExpectRow(HWND shown, const int (&buttons)[4], const int (&icons)[4], const int (&chosenIcons)[4],
                           int chosen)
@@ -445,8 +448,6 @@ protected:
         return enabled;
     }
     static std::vector<int> EnabledSteps(HWND shown) { return Enabled(shown, {4286, 4287, 4284, 4285}); }
-
-    SystemTemplate systemTemplate;
 };
 
 TEST_F(HolePage, ValuesTypedAndClickedBecomeTheLiveRecordOnOkAndReachNoFile)
@@ -477,16 +478,6 @@ TEST_F(HolePage, ValuesTypedAndClickedBecomeTheLiveRecordOnOkAndReachNoFile)
     EXPECT_EQ("C:\\Templates\\a b.tvhpt", SystemTemplate::Text());
 }
 
-TEST_F(HolePage, CancelLeavesTheLiveRecordAlone)
-{
-    OpenSheet sheet({page.get()});
-    ui::Type(sheet.Page(), kBandWidth, L"3");
-    ui::Click(sheet.Page(), kMajor[1]);
-    sheet.Cancel();
-    EXPECT_EQ(1.0, GetLastHoleProcessDefsInfo()->BandWidth);
-    EXPECT_EQ(0, GetLastHoleProcessDefsInfo()->MajorDir);
-}
-
 TEST_F(HolePage, APageThatIsNotFilledShowsTheLiveRecordOfItsConstruction)
 {
     GetLastHoleProcessDefsInfo()->BandWidth = 4.0;
@@ -496,11 +487,6 @@ TEST_F(HolePage, APageThatIsNotFilledShowsTheLiveRecordOfItsConstruction)
     OpenSheet sheet({&fresh});
     EXPECT_EQ(L"4.0000", ui::TextOf(sheet.Page(), kBandWidth));
     EXPECT_EQ(L"C:\\a.tvhpt", ui::TextOf(sheet.Page(), kTemplate));
-}
-
-TEST_F(HolePage, TheSortListShowsItsItemsInOrderAndKeepsTheChosenOne)
-{
-    CheckLists({{kSortType, &Record::SortType, {L"Ручная", L"Расстояние", L"Ортогональная"}}});
 }
 
 TEST_F(HolePage, EveryItemOfTheSortListIsItsSortTypeAndNoneIsManual)
@@ -513,43 +499,6 @@ TEST_F(HolePage, EveryItemOfTheSortListIsItsSortTypeAndNoneIsManual)
         sheet.Ok();
         EXPECT_EQ(item == -1 ? 0 : item, GetLastHoleProcessDefsInfo()->SortType) << item;
     }
-}
-
-TEST_F(HolePage, ChecksWithAHandlerMarkThePageModified)
-{
-    CheckBoxes({{kAccurateMode, &Record::AccurateMode}, {kUseBandWidth, &Record::UseBandWidth}});
-}
-
-TEST_F(HolePage, ChecksThatAreOnlyExchangedMarkNothing)
-{
-    CheckBoxes({{kBidirectional, &Record::Bidirectional},
-                {kSortReverse, &Record::SortReverse},
-                {kSortBias, &Record::SortBiasToVector},
-                {kRecalcAuto, &Record::RecalcAuto}},
-               Marking::Nothing);
-}
-
-TEST_F(HolePage, NegativeLengthsAreRefusedAndZeroAccepted)
-{
-    CheckBounds({{kBandWidth, L"-0.0001", L"0", L"0.0000", kShownUnbounded},
-                 {kBandWidth, L"4.0e38", L"3.4028234663852886e38", L"0.0000", kShownUnbounded},
-                 {kAccurateDistance, L"-1", L"0", L"0.0000", kShownUnbounded},
-                 {kAccurateFeedRate, L"-0.0001", L"0", L"0.0000", kShownUnbounded}},
-                Accurate());
-}
-
-TEST_F(HolePage, ATextThatDoesNotEvaluateKeepsThePageOpen)
-{
-    OpenSheet sheet({page.get()});
-    ui::Type(sheet.Page(), kBandWidth, L"wide");
-    sheet.Press(IDOK);
-    const ui::MessageBoxSeen box = ui::WaitForBox();
-    EXPECT_EQ(L"Please enter a number.", box.text);
-    ui::Answer(box, IDOK);
-    EXPECT_TRUE(sheet.IsOpen());
-    EXPECT_EQ(ui::Control(sheet.Page(), kBandWidth), ui::Focus(sheet.window));
-    ui::Type(sheet.Page(), kBandWidth, L"1");
-    sheet.Cancel();
 }
 
 // ---- directions ----
@@ -754,33 +703,7 @@ TEST_F(HolePage, FlagsThatAreNeitherYesNorNoEnableAndDisableNothing)
     EXPECT_FALSE(ui::IsChecked(sheet.Page(), kUseBandWidth));
 }
 
-TEST_F(HolePage, ReadOnlyItDisablesEveryControlDirectionButtonsIncluded)
-{
-    page->m_readOnly = 1;
-    OpenSheet sheet({page.get()});
-    for (const HWND control : ui::Children(sheet.Page()))
-        EXPECT_FALSE(IsWindowEnabled(control)) << GetDlgCtrlID(control);
-}
-
 // ---- units, defaults, siblings ----
-
-TEST_F(HolePage, TheHostsUnitsConvertTheLiveRecordAndOnlyOneIsMillimetre)
-{
-    ui::UiThread::Get().Call([this] { page->GetData(1); });
-    EXPECT_EQ(1, GetLastHoleProcessDefsInfo()->Units);
-    EXPECT_EQ(25.0, GetLastHoleProcessDefsInfo()->BandWidth);
-    EXPECT_EQ(2.5, GetLastHoleProcessDefsInfo()->AccurateDist);
-    EXPECT_EQ(250.0, GetLastHoleProcessDefsInfo()->AccurateFeedRate);
-    Record other;
-    other.Defaults();
-    EXPECT_EQ(1, other.Units);
-    EXPECT_EQ(25.0, other.BandWidth);
-    ui::UiThread::Get().Call([this] { page->GetData(2); });
-    EXPECT_EQ(0, GetLastHoleProcessDefsInfo()->Units);
-    EXPECT_EQ(1.0, GetLastHoleProcessDefsInfo()->BandWidth);
-    other.Defaults();
-    EXPECT_EQ(0, other.Units);
-}
 
 TEST_F(HolePage, TheHostsDefaultsMessageResetsTheDataButShowsNothing)
 {
@@ -837,52 +760,7 @@ TEST_F(HolePage, ItTellsTheOtherPagesNothing)
     EXPECT_TRUE(spy.notices.empty());
 }
 
-TEST_F(HolePage, ApplyStoresAndLeavesThePageUnmodified)
-{
-    OpenSheet sheet({page.get()});
-    ui::Click(sheet.Page(), kMajor[1]);
-    EXPECT_TRUE(sheet.IsModified());
-    sheet.Press(kApply);
-    EXPECT_FALSE(sheet.IsModified());
-    EXPECT_EQ(1, GetLastHoleProcessDefsInfo()->MajorDir);
-    EXPECT_TRUE(sheet.IsOpen());
-}
-
-TEST_F(HolePage, ActivatingAgainAddsNoItemsTwice)
-{
-    CheckReactivation();
-}
-
-TEST_F(HolePage, EveryTopicOfItsTableIsShown)
-{
-    constexpr char general[] = "HM_Tools_defaults_hole_processing.htm";
-    constexpr char options[] = "pelmar-_options_hole_processing_options.htm";
-    std::vector<Topic> topics = {
-        {0, general},
-        {kSortType, options},
-        {kTemplate, options},
-        {kRecalcAuto, options},
-        {kSortReverse, options},
-        {kSortBias, options},
-        {kBidirectional, "pelmar-_holeprocessing_hidc_hp_bidirectional.htm"},
-        {kAccurateFeedRate, "pelmar-_holeprocessing_hidc_hp_accurate_feedrate.htm"},
-        {kBandWidth, "pelmar-_holeprocessing_hidc_hp_bandwidth.htm"},
-        {kAccurateDistance, general},
-        {kAccurateMode, general},
-        {kUseBandWidth, general},
-        {kChooseTemplate, general},
-    };
-    for (const int button : kMajor)
-        topics.push_back({button, "pelmar-_holeprocessing_hidc_hp_major_dir.htm"});
-    for (const int button : kStep)
-        topics.push_back({button, "pelmar-_holeprocessing_hidc_hp_step_dir.htm"});
-    for (const int button : kAccurate)
-        topics.push_back({button, "pelmar-_holeprocessing_hidc_hp_accurate_dir.htm"});
-    page = Fresh(Accurate());
-    CheckTopics(topics);
-}
-
-TEST_F(HolePage, ControlsThatAreMissingAreSkipped)
+TEST_F(HolePage, WhereControlsAreMissingTheOthersWork)
 {
     OpenSheet sheet({page.get()});
     ui::UiThread::Get().Call([&] {
@@ -897,18 +775,6 @@ TEST_F(HolePage, ControlsThatAreMissingAreSkipped)
     sheet.Ok();
     EXPECT_EQ(1, GetLastHoleProcessDefsInfo()->UseBandWidth);
     EXPECT_EQ(1.0, GetLastHoleProcessDefsInfo()->BandWidth);
-}
-
-TEST_F(HolePage, ItsLayoutClipsAndOverlapsNothing)
-{
-    CheckLayout();
-}
-
-TEST_F(HolePage, CanBeCreatedDynamically)
-{
-    EXPECT_EQ(4159, int{DefsHoleProcessPage::IDD});
-    EXPECT_EQ(CExpRegenPropertyPage::GetThisClass(), DefsHoleProcessPage::GetThisClass()->m_pfnGetBaseClass());
-    ui::UiThread::Get().Call([] { delete DefsHoleProcessPage::GetThisClass()->CreateObject(); });
 }
 
 // ---- choosing a template ----

@@ -2,139 +2,10 @@
 #include <cmath>
 #include <limits>
 
-#include "pages/page_checks.h"
+#include "pages/page_suite.h"
+#include "pages/record_suite.h"
 
 namespace {
-
-// ---- the record ----
-
-class RecordLathe : public testing::Test {
-protected:
-    ~RecordLathe() override
-    {
-        *GetLastLatheOptions() = CLatheOptionsInfo();
-        GiveUnits(0);
-    }
-    /// Makes the units the lathe's current ones.
-    static void GiveUnits(int units)
-    {
-        ui::UiThread::Get().Call([units] { CDefsLathePage().GetData(units); });
-    }
-
-    CLatheOptionsInfo options;
-    HostFolder host;
-};
-
-constexpr char kFreshFile[] = "[OptionsLathe]\r\n"
-                              "Units=0\r\n"
-                              "CornerAngle=90.000000\r\n"
-                              "CornerAngleType=0\r\n"
-                              "CornerClearance=0.000000\r\n"
-                              "GrooveSideStep=95.000000\r\n"
-                              "LeadInSpeed=1\r\n"
-                              "LeadOutSpeed=1\r\n"
-                              "Follow=1\r\n";
-
-TEST_F(RecordLathe, AFreshOneSavesItsBuiltInValuesInOrder)
-{
-    options.vOptions_Save();
-    EXPECT_EQ(kFreshFile, host.ReadSettings());
-}
-
-TEST_F(RecordLathe, RestoresEveryKey)
-{
-    const std::string file = EveryKeyChanged(kFreshFile);
-    host.WriteSettings(file);
-    options.vOptions_Restore();
-    EXPECT_EQ(2, options.Units);
-    EXPECT_EQ(3.5, options.CornerAngle);
-    EXPECT_EQ(4, options.CornerAngleType);
-    EXPECT_EQ(5.5, options.CornerClearance);
-    EXPECT_EQ(6.5, options.GrooveSideStep);
-    EXPECT_EQ(7, options.LeadInSpeed);
-    EXPECT_EQ(8, options.LeadOutSpeed);
-    EXPECT_EQ(9, options.Follow);
-    options.vOptions_Save();
-    EXPECT_EQ(file, host.ReadSettings());
-}
-
-TEST_F(RecordLathe, AnAbsentKeyStaysAsItWas)
-{
-    host.WriteSettings("[OptionsLathe]\r\nGrooveSideStep=50\r\n");
-    options.LeadOutSpeed = 2;
-    options.CornerClearance = 7.25;
-    options.vOptions_Restore();
-    EXPECT_EQ(50.0, options.GrooveSideStep);
-    EXPECT_EQ(2, options.LeadOutSpeed);
-    EXPECT_EQ(7.25, options.CornerClearance);
-    EXPECT_EQ(90.0, options.CornerAngle);
-}
-
-TEST_F(RecordLathe, OtherUnitsChangeNoNumber)
-{
-    options.CornerClearance = 0.3;
-    for (const long units : {1L, 1L, 7L, 0L}) {
-        options.vLatheOptionsCheckUnits(units);
-        EXPECT_EQ(units, options.Units);
-        EXPECT_EQ(90.0, options.CornerAngle);
-        EXPECT_EQ(0.3, options.CornerClearance);
-        EXPECT_EQ(95.0, options.GrooveSideStep);
-    }
-}
-
-TEST_F(RecordLathe, DefaultsWithoutAFileAreTheBuiltInValues)
-{
-    options = CLatheOptionsInfo{1, 40.0, 1, 3.0, 20.0, 2, 0, 0};
-    options.vOptions_Defaults();
-    options.vOptions_Save();
-    EXPECT_EQ(kFreshFile, host.ReadSettings());
-}
-
-TEST_F(RecordLathe, DefaultsComeFromTheDefaultsFileUnconvertedAndInTheCurrentUnits)
-{
-    host.WriteSettings("[OptionsLathe]\r\nCornerClearance=99\r\n");
-    host.WriteDefaults("[OptionsLathe]\r\nUnits=1\r\nCornerAngle=45\r\nCornerAngleType=1\r\nCornerClearance=2.5\r\n"
-                       "GrooveSideStep=60\r\nLeadInSpeed=0\r\nLeadOutSpeed=2\r\nFollow=0\r\n");
-    options.vOptions_Defaults();
-    EXPECT_EQ(0, options.Units);
-    EXPECT_EQ(45.0, options.CornerAngle);
-    EXPECT_EQ(1, options.CornerAngleType);
-    EXPECT_EQ(2.5, options.CornerClearance);
-    EXPECT_EQ(60.0, options.GrooveSideStep);
-    EXPECT_EQ(0, options.LeadInSpeed);
-    EXPECT_EQ(2, options.LeadOutSpeed);
-    EXPECT_EQ(0, options.Follow);
-}
-
-TEST_F(RecordLathe, DefaultsOfAFileInInchAreNotConvertedToMillimetreEither)
-{
-    GiveUnits(1);
-    host.WriteDefaults("[OptionsLathe]\r\nUnits=0\r\nCornerClearance=2.5\r\n");
-    options.GrooveSideStep = 20.0;
-    options.vOptions_Defaults();
-    EXPECT_EQ(1, options.Units);
-    EXPECT_EQ(2.5, options.CornerClearance);
-    EXPECT_EQ(95.0, options.GrooveSideStep);
-    EXPECT_EQ(90.0, options.CornerAngle);
-}
-
-TEST_F(RecordLathe, RealsThatAreNoNumbersKeepTheirValue)
-{
-    CheckHostileReals(host, kFreshFile, &CLatheOptionsInfo::vOptions_Restore, &CLatheOptionsInfo::vOptions_Save);
-}
-
-TEST_F(RecordLathe, WholeNumbersAreTakenAsThePlatformReadsThem)
-{
-    CheckWholeNumbers(host, kFreshFile, &CLatheOptionsInfo::vOptions_Restore, &CLatheOptionsInfo::vOptions_Save);
-}
-
-TEST_F(RecordLathe, TheLiveInstanceIsAlwaysTheSame)
-{
-    EXPECT_NE(nullptr, GetLastLatheOptions());
-    EXPECT_EQ(GetLastLatheOptions(), GetLastLatheOptions());
-}
-
-// ---- the page ----
 
 constexpr int kCornerAngle = 3902;
 constexpr int kCornerAngleType = 3964;
@@ -147,48 +18,118 @@ constexpr int kRadiusAxes = 3940;
 constexpr int kDiameterAxes = 3941;
 constexpr int kDefaultsButton = 4456;
 
-using Lathe = CLatheOptionsInfo;
+struct Turning : OperationOf<CLatheOptionsInfo, CDefsLathePage> {
+    using R = Record;
+    static constexpr auto Live = GetLastLatheOptions;
+    static inline const Operations operations = {"[OptionsLathe]\r\n"
+                                                 "Units=0\r\n"
+                                                 "CornerAngle=90.000000\r\n"
+                                                 "CornerAngleType=0\r\n"
+                                                 "CornerClearance=0.000000\r\n"
+                                                 "GrooveSideStep=95.000000\r\n"
+                                                 "LeadInSpeed=1\r\n"
+                                                 "LeadOutSpeed=1\r\n"
+                                                 "Follow=1\r\n",
+                                                 &R::vOptions_Defaults, &R::vOptions_Save, &R::vOptions_Restore,
+                                                 &R::vLatheOptionsCheckUnits};
+    static inline const std::string changed = EveryKeyChanged(operations.fresh);
+    static inline const Fields fields = {{"CornerAngle", &R::CornerAngle},
+                                         {"CornerAngleType", &R::CornerAngleType},
+                                         {"CornerClearance", &R::CornerClearance},
+                                         {"GrooveSideStep", &R::GrooveSideStep},
+                                         {"LeadInSpeed", &R::LeadInSpeed},
+                                         {"LeadOutSpeed", &R::LeadOutSpeed},
+                                         {"Follow", &R::Follow}};
+    static inline const Lengths lengths;
+    static inline const Unscaled unscaled = {&R::CornerAngle, &R::CornerClearance, &R::GrooveSideStep};
 
-class PageLathe : public OptionPageTest<CDefsLathePage, Lathe, GetLastLatheOptions> {
-protected:
-    int OtherControl(int) override { return kFollow; }
+    static constexpr int templateId = 3937;
+    static constexpr wchar_t title[] = L"Токарные параметры";
+    static constexpr int other = kFollow;
+    static constexpr bool startsWithLiveRecord = false;
+    static inline const Sample<R> sample = {kGrooveSideStep, "GrooveSideStep", &R::GrooveSideStep, L"60+1/2", 60.5,
+                                            L"60.5000",      "60.500000"};
+    static inline const Reals reals = {
+        {kCornerAngle, &R::CornerAngle, L"90.0000"},
+        {kCornerClearance, &R::CornerClearance, L"0.0000"},
+        {kGrooveSideStep, &R::GrooveSideStep, L"95.0000"},
+    };
+    static inline const std::vector<int> markingEdits = {kCornerAngle, kCornerClearance, kGrooveSideStep};
+    static inline const Lists lists = {
+        {kCornerAngleType, &R::CornerAngleType, kCornerTypeItems},
+        {kLeadIn, &R::LeadInSpeed, kFeedItems},
+        {kLeadOut, &R::LeadOutSpeed, kFeedItems},
+    };
+    /// The lead-in alone stores that nothing is selected.
+    static int LeftWithoutSelection(int id) { return id == kLeadIn ? -1 : 99; }
+    static inline const std::vector<std::pair<std::string, std::string>> whereMissing = {{"LeadInSpeed", "-1"}};
+    static inline const Boxes boxes = {{kFollow, &R::Follow}};
+    static inline const std::vector<Bound> bounds = {
+        {kCornerAngle, L"29.9999", L"30", L"30.0000", L"150.0000"},
+        {kCornerAngle, L"150.0001", L"150", L"30.0000", L"150.0000"},
+        {kGrooveSideStep, L"4.9999", L"5", L"5.0000", L"95.0000"},
+        {kGrooveSideStep, L"95.0001", L"95", L"5.0000", L"95.0000"},
+        {kCornerClearance, L"-3.5e38", L"-3.4028234663852886e38", kShownUnboundedBelow, kShownUnbounded},
+        {kCornerClearance, L"3.5e38", L"3.4028234663852886e38", kShownUnboundedBelow, kShownUnbounded}};
+    static inline const DefaultsCase defaults = {
+        "GrooveSideStep=70\r\nFollow=0\r\nLeadOutSpeed=2\r\n",
+        {{"GrooveSideStep", "70.000000"}, {"Follow", "0"}, {"LeadOutSpeed", "2"}},
+        {{kGrooveSideStep, L"70.0000"}}};
+    static inline const std::vector<Topic> topics = {
+        {0, "pelmar-_options_hidd_lathe_cut_opt.htm"},
+        {kCornerAngle, "pelmar-_optionspopups_hidc_2axisopts_corner_ang.htm"},
+        {kCornerClearance, "pelmar-_optionspopups_hidc_2axisopts_corner_clear.htm"},
+        {kGrooveSideStep, "pelmar-_optionspopups_hidc_latheopts_groove_sidestep.htm"},
+        {kCornerAngleType, "pelmar-_optionspopups_hidc_2axisopts_corner_ang_type.htm"},
+        {kLeadOut, "pelmar-_optionspopups_hidc_leadmove_feedrate.htm"},
+        {kLeadIn, "pelmar-_optionspopups_hidc_leadmove_feedrate.htm"},
+        {kFollow, "pelmar-_optionspopups_hidc_latheopts_follow.htm"},
+        {kDefaultsButton, "pelmar-_ncdlgs_defaults_button.htm"},
+    };
+    /// Of the tool gauge.
+    static inline const std::vector<Topic> absentTopics = {{4590, "pelmar-_optionspopups_hidc_latheopts_tl_gauge.htm"}};
 };
 
-const std::vector<ListControl<Lathe>> kLists = {
-    {kCornerAngleType, &Lathe::CornerAngleType, kCornerTypeItems},
-    {kLeadIn, &Lathe::LeadInSpeed, kFeedItems},
-    {kLeadOut, &Lathe::LeadOutSpeed, kFeedItems},
-};
+INSTANTIATE_TYPED_TEST_SUITE_P(Turning, EveryRecord, Turning);
+INSTANTIATE_TYPED_TEST_SUITE_P(Turning, EveryPage, Turning);
+INSTANTIATE_TYPED_TEST_SUITE_P(Turning, PageWithBoxes, Turning);
+INSTANTIATE_TYPED_TEST_SUITE_P(Turning, PageTakingEditsAtOnce, Turning);
+INSTANTIATE_TYPED_TEST_SUITE_P(Turning, PageWithDefaults, Turning);
+INSTANTIATE_TYPED_TEST_SUITE_P(Turning, PageWithDefaultsButton, Turning);
 
-const std::vector<RealControl<Lathe>> kReals = {
-    {kCornerAngle, &Lathe::CornerAngle, L"90.0000"},
-    {kCornerClearance, &Lathe::CornerClearance, L"0.0000"},
-    {kGrooveSideStep, &Lathe::GrooveSideStep, L"95.0000"},
-};
+// ---- the record ----
 
-TEST_F(PageLathe, EveryRealIsShownEvaluatedOnLeavingAndKept)
+class RecordLathe : public EveryRecord<Turning> {};
+
+TEST_F(RecordLathe, OtherUnitsChangeNoNumber)
 {
-    CheckReals(kReals);
-}
-
-TEST_F(PageLathe, TypingAnEqualsSignShowsTheValue)
-{
-    OpenSheet sheet({page.get()});
-    for (const RealControl<Lathe>& row : kReals) {
-        ui::Type(sheet.Page(), row.id, L"2*(16+1/4)=");
-        EXPECT_EQ(L"32.5000", ui::TextOf(sheet.Page(), row.id)) << row.id;
+    record.CornerClearance = 0.3;
+    for (const long units : {1L, 1L, 7L, 0L}) {
+        Convert(units);
+        EXPECT_EQ(units, record.Units);
+        EXPECT_EQ(90.0, record.CornerAngle);
+        EXPECT_EQ(0.3, record.CornerClearance);
+        EXPECT_EQ(95.0, record.GrooveSideStep);
     }
 }
 
-TEST_F(PageLathe, EveryListShowsItsItemsInOrderAndKeepsTheChosenOne)
+TEST_F(RecordLathe, DefaultsOfAFileInInchAreNotConvertedToMillimetreEither)
 {
-    CheckLists(kLists);
+    SetUnits(1);
+    host.WriteDefaults("[OptionsLathe]\r\nUnits=0\r\nCornerClearance=2.5\r\n");
+    record.GrooveSideStep = 20.0;
+    Defaults();
+    EXPECT_EQ(1, record.Units);
+    EXPECT_EQ(2.5, record.CornerClearance);
+    EXPECT_EQ(95.0, record.GrooveSideStep);
+    EXPECT_EQ(90.0, record.CornerAngle);
 }
 
-TEST_F(PageLathe, ListsButTheLeadInKeepTheFieldWhereNothingIsSelected)
-{
-    CheckListsWithoutSelection({kLists[0], kLists[2]});
-}
+// ---- the page ----
+
+using Lathe = CLatheOptionsInfo;
+
+class PageLathe : public EveryPage<Turning> {};
 
 TEST_F(PageLathe, TheLeadInStoresThatNothingIsSelected)
 {
@@ -210,35 +151,6 @@ TEST_F(PageLathe, ALeadInThatTheListDoesNotHoldSelectsNothingAndIsKeptUntouched)
     EXPECT_EQ(99, GetLastLatheOptions()->LeadInSpeed);
 }
 
-TEST_F(PageLathe, TheCheckBoxKeepsItsStateAndMarksThePageModified)
-{
-    CheckBoxes({{kFollow, &Lathe::Follow}});
-}
-
-TEST_F(PageLathe, AnyTextChangeMarksThePageModified)
-{
-    for (const RealControl<Lathe>& row : kReals) {
-        page = Fresh();
-        OpenSheet sheet({page.get()});
-        EXPECT_FALSE(sheet.IsModified()) << row.id;
-        ui::FocusOn(sheet.Page(), row.id);
-        EXPECT_FALSE(sheet.IsModified()) << row.id;
-        ui::TypeAt(ui::Control(sheet.Page(), row.id), L"4");
-        EXPECT_TRUE(sheet.IsModified()) << row.id;
-        ui::TypeAt(ui::Control(sheet.Page(), row.id), L"0"); // leaving a field asks for what is out of range
-    }
-}
-
-TEST_F(PageLathe, ValuesOutOfRangeAreRefusedAndBoundsAccepted)
-{
-    CheckBounds({{kCornerAngle, L"29.9999", L"30", L"30.0000", L"150.0000"},
-                 {kCornerAngle, L"150.0001", L"150", L"30.0000", L"150.0000"},
-                 {kGrooveSideStep, L"4.9999", L"5", L"5.0000", L"95.0000"},
-                 {kGrooveSideStep, L"95.0001", L"95", L"5.0000", L"95.0000"},
-                 {kCornerClearance, L"-3.5e38", L"-3.4028234663852886e38", kShownUnboundedBelow, kShownUnbounded},
-                 {kCornerClearance, L"3.5e38", L"3.4028234663852886e38", kShownUnboundedBelow, kShownUnbounded}});
-}
-
 TEST_F(PageLathe, AValueOutOfRangeIsRefusedOnLeavingTheField)
 {
     OpenSheet sheet({page.get()});
@@ -250,33 +162,6 @@ TEST_F(PageLathe, AValueOutOfRangeIsRefusedOnLeavingTheField)
     ui::Type(sheet.Page(), kGrooveSideStep, L"50");
     sheet.Ok();
     EXPECT_EQ(50.0, GetLastLatheOptions()->GrooveSideStep);
-}
-
-TEST_F(PageLathe, ATextThatDoesNotEvaluateIsRefusedOnLeavingTheField)
-{
-    OpenSheet sheet({page.get()});
-    ui::Type(sheet.Page(), kCornerClearance, L"угол");
-    ui::FocusOn(sheet.Page(), kFollow);
-    const ui::MessageBoxSeen box = ui::WaitForBox();
-    EXPECT_EQ(L"Please enter a number.", box.text);
-    ui::Answer(box, IDOK);
-    EXPECT_EQ(ui::Control(sheet.Page(), kCornerClearance), ui::Focus(sheet.window));
-    ui::Type(sheet.Page(), kCornerClearance, L"1");
-    sheet.Cancel();
-    EXPECT_EQ(0.0, GetLastLatheOptions()->CornerClearance);
-}
-
-TEST_F(PageLathe, TellsTheOtherPagesNothing)
-{
-    SiblingSpy spy;
-    OpenSheet sheet({page.get(), &spy});
-    for (const ListControl<Lathe>& row : kLists)
-        ui::Choose(sheet.Page(), row.id, 0);
-    for (const RealControl<Lathe>& row : kReals)
-        ui::Type(sheet.Page(), row.id, L"40");
-    ui::Click(sheet.Page(), kFollow);
-    ui::Click(sheet.Page(), kDefaultsButton);
-    EXPECT_TRUE(spy.notices.empty());
 }
 
 TEST_F(PageLathe, TheHostsUnitsConvertNothingAndOnlyOneIsMillimetre)
@@ -293,89 +178,7 @@ TEST_F(PageLathe, TheHostsUnitsConvertNothingAndOnlyOneIsMillimetre)
     }
 }
 
-TEST_F(PageLathe, DefaultsByButtonShowTheBuiltInValuesAndMarkNothing)
-{
-    page = Fresh(Lathe{0, 40.0, 1, 3.0, 20.0, 2, 0, 0});
-    OpenSheet sheet({page.get()});
-    EXPECT_FALSE(ui::IsChecked(sheet.Page(), kFollow));
-    ui::Click(sheet.Page(), kDefaultsButton);
-    EXPECT_FALSE(sheet.IsModified());
-    for (const RealControl<Lathe>& row : kReals)
-        EXPECT_EQ(row.shown, ui::TextOf(sheet.Page(), row.id)) << row.id;
-    for (const ListControl<Lathe>& row : kLists)
-        EXPECT_EQ(Lathe().*row.field, ui::Selection(sheet.Page(), row.id)) << row.id;
-    EXPECT_TRUE(ui::IsChecked(sheet.Page(), kFollow));
-    EXPECT_EQ(2, GetLastLatheOptions()->LeadInSpeed);
-    sheet.Ok();
-    GetLastLatheOptions()->vOptions_Save();
-    EXPECT_EQ(kFreshFile, host.ReadSettings());
-}
-
-TEST_F(PageLathe, TheHostsDefaultsMessageDoesTheSameAndIsAnsweredWithZero)
-{
-    host.WriteDefaults("[OptionsLathe]\r\nGrooveSideStep=70\r\nFollow=0\r\nLeadOutSpeed=2\r\n");
-    OpenSheet sheet({page.get()});
-    EXPECT_EQ(0, SendMessage(sheet.Page(), 3072, 5, 6));
-    EXPECT_EQ(L"70.0000", ui::TextOf(sheet.Page(), kGrooveSideStep));
-    EXPECT_FALSE(ui::IsChecked(sheet.Page(), kFollow));
-    EXPECT_EQ(2, ui::Selection(sheet.Page(), kLeadOut));
-}
-
-TEST_F(PageLathe, CancelLeavesTheLiveRecordAlone)
-{
-    OpenSheet sheet({page.get()});
-    ui::Type(sheet.Page(), kGrooveSideStep, L"50");
-    ui::Choose(sheet.Page(), kLeadOut, 2);
-    sheet.Cancel();
-    EXPECT_EQ(95.0, GetLastLatheOptions()->GrooveSideStep);
-    EXPECT_EQ(1, GetLastLatheOptions()->LeadOutSpeed);
-}
-
-TEST_F(PageLathe, ApplyStoresAndLeavesThePageUnmodified)
-{
-    OpenSheet sheet({page.get()});
-    ui::Choose(sheet.Page(), kLeadOut, 2);
-    sheet.Press(kApply);
-    EXPECT_FALSE(sheet.IsModified());
-    EXPECT_EQ(2, GetLastLatheOptions()->LeadOutSpeed);
-    EXPECT_EQ("", host.ReadSettings());
-}
-
-TEST_F(PageLathe, ActivatingAgainAddsNoItemsTwiceAndShowsTheDataAgain)
-{
-    CheckReactivation();
-    page = Fresh();
-    SiblingSpy other;
-    OpenSheet sheet({page.get(), &other});
-    ui::Type(sheet.Page(), kCornerAngle, L"45");
-    ui::Choose(sheet.Page(), kLeadOut, 0);
-    sheet.Switch(1);
-    sheet.Switch(0);
-    EXPECT_EQ(L"45.0000", ui::TextOf(sheet.Page(), kCornerAngle));
-    EXPECT_EQ(0, ui::Selection(sheet.Page(), kLeadOut));
-}
-
-TEST_F(PageLathe, EveryTopicOfItsTableIsShown)
-{
-    CheckTopics({
-        {0, "pelmar-_options_hidd_lathe_cut_opt.htm"},
-        {kCornerAngle, "pelmar-_optionspopups_hidc_2axisopts_corner_ang.htm"},
-        {kCornerClearance, "pelmar-_optionspopups_hidc_2axisopts_corner_clear.htm"},
-        {kGrooveSideStep, "pelmar-_optionspopups_hidc_latheopts_groove_sidestep.htm"},
-        {kCornerAngleType, "pelmar-_optionspopups_hidc_2axisopts_corner_ang_type.htm"},
-        {kLeadOut, "pelmar-_optionspopups_hidc_leadmove_feedrate.htm"},
-        {kLeadIn, "pelmar-_optionspopups_hidc_leadmove_feedrate.htm"},
-        {kFollow, "pelmar-_optionspopups_hidc_latheopts_follow.htm"},
-        {kDefaultsButton, "pelmar-_ncdlgs_defaults_button.htm"},
-    });
-}
-
-TEST_F(PageLathe, TheTopicOfTheToolGaugeIsKeptThoughTheTemplateHasNoSuchControl)
-{
-    CheckTopicOfMissingControl(4590, "pelmar-_optionspopups_hidc_latheopts_tl_gauge.htm");
-}
-
-TEST_F(PageLathe, ControlsThatAreMissingAreSkipped)
+TEST_F(PageLathe, WhereControlsAreMissingTheOthersWork)
 {
     SiblingSpy other;
     OpenSheet sheet({page.get(), &other});
@@ -392,13 +195,6 @@ TEST_F(PageLathe, ControlsThatAreMissingAreSkipped)
     EXPECT_EQ(90.0, GetLastLatheOptions()->CornerAngle);
     EXPECT_EQ(2, GetLastLatheOptions()->LeadOutSpeed);
     EXPECT_EQ(1, GetLastLatheOptions()->LeadInSpeed);
-}
-
-TEST_F(PageLathe, CanBeCreatedDynamically)
-{
-    EXPECT_EQ(3937, int{CDefsLathePage::IDD});
-    EXPECT_EQ(CExpRegenPropertyPage::GetThisClass(), CDefsLathePage::GetThisClass()->m_pfnGetBaseClass());
-    ui::UiThread::Get().Call([] { delete CDefsLathePage::GetThisClass()->CreateObject(); });
 }
 
 // ---- the axis modes ----

@@ -15,10 +15,22 @@
 
 // ---- pages ----
 
+enum class Marking {
+    Modified,
+    Nothing,
+};
+
 /// An edit of a real and how a fresh record's value shows.
 template <class Record> struct RealControl {
     int id;
     double Record::*field;
+    const wchar_t* shown;
+};
+
+/// An edit of a whole number.
+template <class Record> struct WholeControl {
+    int id;
+    int Record::*field;
     const wchar_t* shown;
 };
 
@@ -36,6 +48,7 @@ template <class Record> struct BoxControl {
     int Record::*field;
     int checked = 1;
     int unchecked = 0;
+    Marking marking = Marking::Modified;
 };
 
 /// A text that an edit refuses, one that it accepts, and the bounds that its prompt names.
@@ -65,13 +78,23 @@ struct Topic {
     const char* topic;
 };
 
-enum class Marking {
-    Modified,
-    Nothing,
-};
-
 constexpr wchar_t kShownUnbounded[] = L"340282346638528859811704183484516925440.0000";
 constexpr wchar_t kShownUnboundedBelow[] = L"-340282346638528859811704183484516925440.0000";
+inline std::vector<Bound> Joined(const std::vector<std::vector<Bound>>& parts)
+{
+    std::vector<Bound> all;
+    for (const std::vector<Bound>& part : parts)
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
+/// A real that reaches to the largest single-precision value on both sides.
+inline std::vector<Bound> Unbounded(int id)
+{
+    return {{id, L"3.5e38", L"3.4028234663852886e38", kShownUnboundedBelow, kShownUnbounded},
+            {id, L"-3.5e38", L"-3.4028234663852886e38", kShownUnboundedBelow, kShownUnbounded}};
+}
+
 constexpr wchar_t kEnterNumber[] = L"Please enter a number.";
 constexpr wchar_t kEnterInteger[] = L"Please enter an integer.";
 inline const std::vector<std::wstring> kLengthTypeItems = {L"Константа", L"Радиус инструмента"};
@@ -197,6 +220,7 @@ protected:
             const std::unique_ptr<PageClass> shown = Fresh();
             OpenSheet sheet({shown.get(), &spy});
             ui::Type(sheet.Page(), row.id, L"1/4");
+            EXPECT_TRUE(spy.notices.empty()) << row.id;
             ui::FocusOn(sheet.Page(), OtherControl(row.id));
             ASSERT_EQ(1u, spy.notices.size()) << row.id;
             EXPECT_EQ(row.code, spy.notices[0].code) << row.id;
@@ -242,7 +266,7 @@ protected:
         EXPECT_EQ(expected, spy.notices) << row.id;
     }
 
-    void CheckBoxes(const std::vector<BoxControl<Record>>& rows, Marking marking = Marking::Modified)
+    void CheckBoxes(const std::vector<BoxControl<Record>>& rows)
     {
         for (const BoxControl<Record>& row : rows) {
             const bool checked = Record().*row.field == row.checked;
@@ -251,7 +275,7 @@ protected:
             OpenSheet sheet({shown.get()});
             EXPECT_EQ(checked, ui::IsChecked(sheet.Page(), row.id)) << row.id;
             ui::Click(sheet.Page(), row.id);
-            EXPECT_EQ(marking == Marking::Modified, sheet.IsModified()) << row.id;
+            EXPECT_EQ(row.marking == Marking::Modified, sheet.IsModified()) << row.id;
             sheet.Ok();
             EXPECT_EQ(checked ? row.unchecked : row.checked, Live()->*row.field) << row.id;
         }
@@ -337,6 +361,12 @@ protected:
         EXPECT_EQ(std::vector<std::string>{}, LayoutFaults(sheet.Page()));
     }
 
+    static bool IsPushButton(HWND control)
+    {
+        return ui::ClassOf(control) == L"Button" &&
+               (GetWindowLong(control, GWL_STYLE) & BS_TYPEMASK) <= BS_DEFPUSHBUTTON;
+    }
+
     /// A page whose template holds no control at all: whatever notification comes, the record stays as it is. Returns
     /// the live record after the page has been left and applied.
     Record AfterEveryControlWasMissing(const Record& record)
@@ -346,7 +376,8 @@ protected:
             BOOL OnInitDialog() override
             {
                 for (const HWND control : ui::Children(this->m_hWnd)) {
-                    ids.push_back(GetDlgCtrlID(control));
+                    if (!IsPushButton(control)) // which acts whatever else is there
+                        ids.push_back(GetDlgCtrlID(control));
                     DestroyWindow(control);
                 }
                 return PageClass::OnInitDialog();
@@ -355,6 +386,7 @@ protected:
         *Live() = record;
         Bare bare;
         ui::UiThread::Get().Call([&] { bare.GetData(record.Units); });
+        Prepare(bare);
         SiblingSpy other;
         OpenSheet sheet({&bare, &other});
         EXPECT_TRUE(ui::Children(sheet.Page()).empty());

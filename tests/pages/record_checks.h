@@ -1,6 +1,7 @@
 // Checks of what every record does with its files and units, told by a table of its operations and lengths.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -41,11 +42,47 @@ std::string Saved(const HostFolder& host, Record& record, const RecordOperations
     return host.ReadSettings();
 }
 
+/// Where a record departs from "each key is one field, and nothing else is".
+struct FileRules {
+    std::string elsewhere = {};             ///< a section besides its own that the record reads as well
+    std::vector<std::string> ownRules = {}; ///< keys that are put in bounds when they are read, or read elsewhere
+    std::vector<std::string> notInDefaults =
+        {}; ///< keys that keep their built-in value, whatever the defaults file says
+    std::vector<std::pair<std::string, std::string>> otherDefaults = {}; ///< keys with another default than built in
+    std::string unitsSection = {};                                       ///< of the defaults file; else its own
+    bool keepsUnits = false; ///< a defaults file without units is in those that the record had; else it is in inch
+};
+
+inline bool Holds(const std::vector<std::string>& keys, const std::string& key)
+{
+    return std::find(keys.begin(), keys.end(), key) != keys.end();
+}
+
+/// The first line of a file, with its end.
+inline std::string HeaderOf(const std::string& file)
+{
+    return file.substr(0, file.find("\r\n") + 2);
+}
+
+/// What stands behind a key.
+inline std::string ValueIn(const std::string& file, const std::string& key)
+{
+    const size_t at = file.find("\r\n" + key + "=") + key.size() + 3;
+    return file.substr(at, file.find("\r\n", at) - at);
+}
+
+inline std::string WithValues(std::string file, const std::vector<std::pair<std::string, std::string>>& values)
+{
+    for (const auto& [key, value] : values)
+        file = WithValue(file, key, value);
+    return file;
+}
+
 /// Restores every key of a file whose values are all its own, and writes them in the same order.
 template <class Record> Record CheckRestoresEveryKey(const HostFolder& host, const RecordOperations<Record>& operations,
-                                                     const std::string& file)
+                                                     const std::string& file, const FileRules& rules = {})
 {
-    host.WriteSettings(file);
+    host.WriteSettings(file + rules.elsewhere);
     Record record;
     (record.*operations.restore)();
     EXPECT_EQ(file, Saved(host, record, operations));
@@ -53,46 +90,53 @@ template <class Record> Record CheckRestoresEveryKey(const HostFolder& host, con
 }
 
 /// With one key at a time in the settings file and then in the defaults file, that one is taken and the others stay.
-template <class Record>
-void CheckTakesKeysOneByOne(const HostFolder& host, const RecordOperations<Record>& operations, const std::string& file)
+template <class Record> void CheckTakesKeysOneByOne(const HostFolder& host, const RecordOperations<Record>& operations,
+                                                    const std::string& file, const FileRules& rules = {})
 {
-    const std::string section = operations.fresh.substr(0, operations.fresh.find("\r\n") + 2);
+    const std::string byDefault = WithValues(operations.fresh, rules.otherDefaults);
     for (const std::string& key : KeysOf(file)) {
-        const size_t at = file.find("\r\n" + key + "=") + 2;
-        const std::string line = file.substr(at, file.find("\r\n", at) + 2 - at);
-        const std::string value = line.substr(key.size() + 1, line.size() - key.size() - 3);
-        const std::string expected = WithValue(operations.fresh, key, value);
+        if (Holds(rules.ownRules, key))
+            continue;
+        const std::string value = ValueIn(file, key);
+        const std::string alone = HeaderOf(file) + key + "=" + value + "\r\n";
 
-        host.WriteSettings(section + line);
+        host.WriteSettings(alone);
         Record restored;
         (restored.*operations.restore)();
-        EXPECT_EQ(expected, Saved(host, restored, operations)) << key;
+        EXPECT_EQ(WithValue(operations.fresh, key, value), Saved(host, restored, operations)) << key;
 
-        if (key == "Units")
+        if (key == "Units" || Holds(rules.notInDefaults, key))
             continue;
-        host.WriteDefaults(section + line);
+        host.WriteDefaults(alone);
         Record defaulted;
         (defaulted.*operations.defaults)();
-        EXPECT_EQ(expected, Saved(host, defaulted, operations)) << key;
+        EXPECT_EQ(WithValue(byDefault, key, value), Saved(host, defaulted, operations)) << key;
     }
 }
 
-/// Defaults of a full file in the kind's own units, of an empty one, and of a metric one without values. The record
-/// held other values before.
-template <class Record>
-void CheckDefaults(const HostFolder& host, const RecordOperations<Record>& operations, const std::string& file)
+/// Defaults without a file, of a full file in the kind's own units, of an empty one, and of a metric one without
+/// values. The record and the settings file hold other values before.
+template <class Record> void CheckDefaults(const HostFolder& host, const RecordOperations<Record>& operations,
+                                           const std::string& file, const FileRules& rules = {})
 {
-    Record record;
-    const std::string full = WithValue(file, "Units", "0");
-    host.WriteDefaults(full);
+    const std::string byDefault = WithValues(operations.fresh, rules.otherDefaults);
+    Record record = CheckRestoresEveryKey(host, operations, file, rules);
     (record.*operations.defaults)();
-    EXPECT_EQ(full, Saved(host, record, operations));
+    EXPECT_EQ(byDefault, Saved(host, record, operations));
 
-    for (const std::string& withoutValues :
-         {std::string(), operations.fresh.substr(0, operations.fresh.find("\r\n")) + "\r\nUnits=1\r\n"}) {
+    const std::string full = WithValue(file, "Units", "0");
+    std::string taken = full;
+    for (const std::string& key : rules.notInDefaults)
+        taken = WithValue(taken, key, ValueIn(operations.fresh, key));
+    host.WriteDefaults(full + rules.elsewhere);
+    (record.*operations.defaults)();
+    EXPECT_EQ(taken, Saved(host, record, operations));
+
+    for (const std::string& withoutValues : {std::string(), HeaderOf(operations.fresh) + "Units=1\r\n"}) {
         host.WriteDefaults(withoutValues);
+        host.WriteSettings(file + rules.elsewhere);
         (record.*operations.defaults)();
-        EXPECT_EQ(operations.fresh, Saved(host, record, operations)) << withoutValues;
+        EXPECT_EQ(byDefault, Saved(host, record, operations)) << withoutValues;
     }
 }
 
