@@ -77,7 +77,7 @@ TYPED_TEST(FinishPassesPage, TheNumberOfFinishPassesIsAWholeNumberOfAnySign)
 {
     OpenSheet sheet({this->page.get()});
     ui::Type(sheet.Page(), 4453, L"2.5");
-    ui::FocusOn(sheet.Page(), 4456);
+    ui::FocusOn(sheet.Page(), 4440);
     EXPECT_FALSE(ui::IsBoxOpen()); // no handler takes the data on leaving it
     sheet.Press(IDOK);
     const ui::MessageBoxSeen box = ui::WaitForBox();

@@ -7,7 +7,7 @@
 template <class RecordClass, class PageClass> struct FeatureMillOf : OperationOf<RecordClass, PageClass> {
     using R = RecordClass;
     static constexpr wchar_t title[] = L"По умолчанию";
-    static constexpr int other = 4456;
+    static constexpr int other = 4440;
     static constexpr Marking listMarking = Marking::Nothing;
     static inline const Sample<R> sample = {4459,  "RapidPlane", &R::RapidPlane, L"1/8+0.02",
                                             0.145, L"0.1450",    "0.145000"};
