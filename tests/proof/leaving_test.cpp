@@ -147,7 +147,7 @@ class LeavingAPage : public testing::TestWithParam<size_t> {
 protected:
     LeavingAPage()
     {
-        host.WriteSettings("[OptionsHoleProcess]\r\nAccurateMode=1\r\n"); // which enables its edits
+        host.WriteSettings("[HoleProcessLocation]\r\nAccurateMode=1\r\n"); // which enables its edits
         row.restore();
     }
     ~LeavingAPage() override
