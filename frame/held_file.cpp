@@ -18,7 +18,10 @@ HANDLE OpenToRead(const char* path)
 
 bool IsBeingSaved(const char* file)
 {
-    const HANDLE lock = OpenToRead(LockOf(file).c_str());
+    const std::string path = LockOf(file);
+    if (Files().fileAttributes(path.c_str()) == INVALID_FILE_ATTRIBUTES)
+        return false;
+    const HANDLE lock = OpenToRead(path.c_str());
     if (lock == INVALID_HANDLE_VALUE)
         return IsPassing(GetLastError());
     Files().closeHandle(lock); // left behind

@@ -127,4 +127,33 @@ TEST_F(Saving, TheMachineSimulationsStartIsSavedInOneStepToo)
     EXPECT_TRUE(Value(host.coreFile, "startup", "mdfilename").starts_with("E:\\MS\\"));
 }
 
+// ---- reading ----
+
+/// Whether another program can save the settings file in one step.
+bool MayBeReplaced(const HostFolder& host)
+{
+    const std::string copy = host.folder + "\\copy";
+    WriteFile(copy, "[S]\r\nFirst=2\r\n");
+    return MoveFileExA(copy.c_str(), host.settings.c_str(), MOVEFILE_REPLACE_EXISTING);
+}
+
+TEST_F(Saving, OfOthersWaitsForAReadingAndItsParts)
+{
+    host.WriteSettings("[S]\r\nFirst=1\r\n");
+    {
+        const pelmar::SettingsReading reading;
+        GetLast2xOptions()->vOptions_Restore();
+        {
+            const pelmar::SettingsReading part;
+        }
+        EXPECT_FALSE(MayBeReplaced(host));
+        EXPECT_EQ(1, pelmar::ReadWhole("S", "First", 0));
+    }
+    EXPECT_TRUE(MayBeReplaced(host));
+    EXPECT_EQ(2, pelmar::ReadWhole("S", "First", 0));
+    const pelmar::SettingsReading reading;
+    EXPECT_TRUE(pelmar::WriteWhole("S", "First", 3)) << "one's own does not";
+    EXPECT_EQ("[S]\r\nFirst=3\r\n", host.ReadSettings());
+}
+
 } // namespace

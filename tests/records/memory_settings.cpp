@@ -66,7 +66,7 @@ bool CommitSave()
 }
 void DropSave() {}
 
-SettingsReading::SettingsReading() : m_file(nullptr) {}
+SettingsReading::SettingsReading() = default;
 SettingsReading::~SettingsReading() = default;
 
 bool WriteWhole(const char* section, const char* key, int value)
