@@ -10,12 +10,15 @@
 
 namespace bench {
 
-/// The best time of each piece of work, in seconds for one call.
-template <class... Works> std::array<double, sizeof...(Works)> BestTimes(int rounds, int calls, Works... works)
+/// The best time of each piece of work, in seconds for one call. Before each round of a piece `prepare` sets up what it
+/// works on, and is not counted.
+template <class Prepare, class... Works>
+std::array<double, sizeof...(Works)> BestTimesOnPrepared(int rounds, int calls, Prepare prepare, Works... works)
 {
     std::array<double, sizeof...(Works)> best;
     best.fill(std::numeric_limits<double>::infinity());
-    const auto timeOf = [calls](auto& work) {
+    const auto timeOf = [&](auto& work) {
+        prepare();
         const auto start = std::chrono::steady_clock::now();
         for (int call = 0; call < calls; ++call)
             work();
@@ -27,6 +30,13 @@ template <class... Works> std::array<double, sizeof...(Works)> BestTimes(int rou
         ((best[index] = std::min(best[index], timeOf(works)), ++index), ...);
     }
     return best;
+}
+
+/// The same for work that needs no preparation.
+template <class... Works> std::array<double, sizeof...(Works)> BestTimes(int rounds, int calls, Works... works)
+{
+    return BestTimesOnPrepared(
+        rounds, calls, [] {}, works...);
 }
 
 /// One line of the table: what is compared, the ratio, and the bound that is aimed at.
