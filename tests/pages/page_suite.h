@@ -420,7 +420,10 @@ TYPED_TEST_P(PageTakingEditsAtOnce, ATextThatDoesNotEvaluateIsRefusedOnLeavingIt
 {
     OpenSheet sheet({this->page.get()});
     for (const auto& row : TypeParam::reals) {
-        for (const wchar_t* const refused : {L"radius", L""}) {
+        std::vector<std::wstring> texts = {L"radius"};
+        if (row.id == TypeParam::sample.id)
+            texts.emplace_back();
+        for (const std::wstring& refused : texts) {
             ui::Type(sheet.Page(), row.id, refused);
             ui::FocusOn(sheet.Page(), TypeParam::other);
             const ui::MessageBoxSeen box = ui::WaitForBox();

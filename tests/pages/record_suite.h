@@ -286,9 +286,9 @@ TYPED_TEST_P(RecordOfLengths, ConvertingChangesNoWholeNumberAndNothingInItsOwnUn
         if (field.whole) {
             EXPECT_EQ(std::stoi(ValueIn(TypeParam::changed, field.key)), this->record.*field.whole) << field.key;
         }
-    const std::string metric = this->Saved();
+    const std::string metric = this->FieldsOf(this->record);
     this->Convert(1);
-    EXPECT_EQ(metric, this->Saved());
+    EXPECT_EQ(metric, this->FieldsOf(this->record));
 }
 
 TYPED_TEST_P(RecordOfLengths, TheUnitsThatItsPageIsGivenConvertTheLiveOneAndOnlyOneIsMillimetre)
