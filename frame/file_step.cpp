@@ -6,8 +6,10 @@
 // go for the replacing, which the system refuses while anybody has the file open: readers let go soon, so it is tried
 // again, but never over what somebody has written meanwhile.
 //
-// Where the folder lets nobody make a file, but the file itself may be written, it is written in place in one go, held
-// so that nobody else gets at it. That is the one way in which a killed process can leave half a file.
+// Where there can be no copy that takes the file's place, but the file itself may be written, it is written in place in
+// one go, held so that nobody else gets at it: in a folder in which nobody may make or replace a file, for a link, an
+// encrypted file, a name too long for a longer one, or an access list that the copy may not have. That is the one way
+// in which a killed process can leave half a file.
 #include "frame/file_step.h"
 
 #include <array>
@@ -18,6 +20,7 @@
 #include <vector>
 
 #include "frame/damaged_settings.h"
+#include "frame/file.h"
 #include "frame/patience.h"
 
 namespace pelmar {
@@ -51,96 +54,6 @@ struct Refusal {
 {
     throw Refusal{failure, error};
 }
-
-class File {
-public:
-    File() = default;
-    File(const std::string& path, DWORD access, DWORD share, DWORD disposition, DWORD flags = FILE_ATTRIBUTE_NORMAL)
-        : m_handle(Files().createFile(path.c_str(), access, share, nullptr, disposition, flags, nullptr))
-    {
-    }
-    File(File&& other) noexcept : m_handle(std::exchange(other.m_handle, INVALID_HANDLE_VALUE)) {}
-    File& operator=(File&& other) noexcept
-    {
-        Close();
-        m_handle = std::exchange(other.m_handle, INVALID_HANDLE_VALUE);
-        return *this;
-    }
-    ~File() { Close(); }
-
-    bool IsOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
-    void Close()
-    {
-        if (IsOpen())
-            Files().closeHandle(std::exchange(m_handle, INVALID_HANDLE_VALUE));
-    }
-
-    bool Describe(BY_HANDLE_FILE_INFORMATION& description) const
-    {
-        return Files().fileInformation(m_handle, &description);
-    }
-
-    bool Read(std::string& bytes) const
-    {
-        BY_HANDLE_FILE_INFORMATION description{};
-        if (!Describe(description))
-            return false;
-        bytes.resize(description.nFileSizeLow);
-        DWORD read = 0;
-        if (description.nFileSizeHigh == 0 &&
-            Files().readFile(m_handle, bytes.data(), description.nFileSizeLow, &read, nullptr) && read == bytes.size())
-            return true;
-        if (description.nFileSizeHigh != 0)
-            SetLastError(ERROR_FILE_TOO_LARGE);
-        return false;
-    }
-
-    bool Write(std::string_view bytes) const
-    {
-        DWORD written = 0;
-        if (!Files().writeFile(m_handle, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
-            return false;
-        if (written == bytes.size())
-            return true;
-        SetLastError(ERROR_DISK_FULL);
-        return false;
-    }
-
-    /// Ends the file at `size`, where the next bytes go to.
-    bool CutAt(size_t size) const { return MoveTo(size) && Files().setEndOfFile(m_handle); }
-    bool MoveTo(size_t position) const
-    {
-        LARGE_INTEGER to{};
-        to.QuadPart = static_cast<LONGLONG>(position);
-        return Files().setFilePointer(m_handle, to, nullptr, FILE_BEGIN);
-    }
-    bool Flush() const { return Files().flushFileBuffers(m_handle); }
-    bool SetWriteTime(const FILETIME& time) const { return Files().setFileTime(m_handle, nullptr, nullptr, &time); }
-
-private:
-    HANDLE m_handle = INVALID_HANDLE_VALUE;
-};
-
-/// A file that is deleted unless it is to stay.
-class PassingFile {
-public:
-    PassingFile() = default;
-    explicit PassingFile(std::string path) : m_path(std::move(path)) {}
-    PassingFile(const PassingFile&) = delete;
-    PassingFile& operator=(const PassingFile&) = delete;
-    ~PassingFile()
-    {
-        if (!m_path.empty())
-            Files().deleteFile(m_path.c_str());
-    }
-
-    const std::string& Path() const { return m_path; }
-    void Become(std::string path) { m_path = std::move(path); }
-    std::string Stay() { return std::exchange(m_path, {}); }
-
-private:
-    std::string m_path;
-};
 
 /// A name that nobody else uses, `kCopyTail` characters longer than `stem`.
 std::string FreshName(const std::string& stem)
@@ -227,7 +140,7 @@ ULONGLONG TicksOf(const FILETIME& time)
 void MakeLaterThan(const BY_HANDLE_FILE_INFORMATION& before, const File& file)
 {
     constexpr ULONGLONG kMillisecond = 10'000;
-    constexpr ULONGLONG kClockStep = 100 * kMillisecond;
+    constexpr ULONGLONG kClockStep = 1000 * kMillisecond;
     BY_HANDLE_FILE_INFORMATION description{};
     const ULONGLONG then = TicksOf(before.ftLastWriteTime);
     if (!file.Describe(description))
@@ -304,7 +217,7 @@ private:
     bool TryHold(Original& original) const;
     Result Replace();
     Result PutInPlace(PassingFile& copy, const Original& before) const;
-    bool MayBeReplaced() const;
+    bool IsInNobodysHands() const;
     void WriteInPlace();
     std::string KeepAside(std::string_view bytes) const;
 
@@ -446,6 +359,10 @@ Step::Result Step::Replace()
 
 Step::Result Step::PutInPlace(PassingFile& copy, const Original& before) const
 {
+    // Replacing is denied to whoever has no right to, and to everybody while somebody has the file open. Once may be
+    // chance: he closed it just after.
+    constexpr int kNoChance = 5;
+    int deniedWhileFree = 0;
     for (;;) {
         if (Files().moveFile(copy.Path().c_str(), m_file.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
             copy.Stay();
@@ -453,7 +370,7 @@ Step::Result Step::PutInPlace(PassingFile& copy, const Original& before) const
         }
         const DWORD error = GetLastError();
         const bool isDenied = error == ERROR_ACCESS_DENIED;
-        if (isDenied && !MayBeReplaced())
+        if (isDenied && IsInNobodysHands() && ++deniedWhileFree == kNoChance)
             return Result::OnlyInPlace;
         if (!isDenied && !IsPassing(error))
             Refuse(SaveFailure::Replacing, error);
@@ -467,11 +384,9 @@ Step::Result Step::PutInPlace(PassingFile& copy, const Original& before) const
     }
 }
 
-/// Replacing is denied while anybody has the file open, and to who may not delete it.
-bool Step::MayBeReplaced() const
+bool Step::IsInNobodysHands() const
 {
-    const File file(m_file, DELETE, kShareAll, OPEN_EXISTING);
-    return file.IsOpen() || GetLastError() != ERROR_ACCESS_DENIED;
+    return File(m_file, GENERIC_READ, 0, OPEN_EXISTING).IsOpen();
 }
 
 void Step::WriteInPlace()

@@ -23,7 +23,7 @@ void CutInHalf(const char* path)
 HANDLE WINAPI Create(const char* path, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security, DWORD disposition,
                      DWORD flags, HANDLE like)
 {
-    if (!g_calls->Permits("CreateFile", path, access))
+    if (!g_calls->Permits("CreateFile", path))
         return INVALID_HANDLE_VALUE;
     return CreateFileA(path, access, share, security, disposition, flags, like);
 }
@@ -153,7 +153,7 @@ FileCalls::~FileCalls()
     g_calls = nullptr;
 }
 
-bool FileCalls::Permits(const char* name, const char* path, DWORD access)
+bool FileCalls::Permits(const char* name, const char* path)
 {
     if (m_isDead) {
         SetLastError(ERROR_PROCESS_ABORTED);
@@ -161,7 +161,7 @@ bool FileCalls::Permits(const char* name, const char* path, DWORD access)
     }
     ++m_made;
     m_isDead = IsDying();
-    const Call call{name, path ? path : "", access};
+    const Call call{name, path ? path : ""};
     if (const DWORD error = fails ? fails(call) : 0) {
         SetLastError(error);
         return false;

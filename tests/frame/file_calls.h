@@ -10,11 +10,10 @@
 
 namespace saving {
 
-/// One call: its name, and the path and the access that it is given, where it is given them.
+/// One call: its name, and the path that it is given where it is given one.
 struct Call {
     std::string name;
     std::string path;
-    DWORD access = 0;
 
     bool IsOn(const std::string& part) const { return path.find(part) != path.npos; }
 };
@@ -42,7 +41,7 @@ public:
     std::uint64_t Now() const { return m_now; }
 
     // For the calls themselves.
-    bool Permits(const char* name, const char* path = nullptr, DWORD access = 0);
+    bool Permits(const char* name, const char* path = nullptr);
     bool IsDying() const { return m_made == killedAt; }
     void Sleep(DWORD milliseconds);
 
