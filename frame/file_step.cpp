@@ -13,7 +13,7 @@
 #include "frame/file_step.h"
 
 #include <array>
-#include <cstdio>
+#include <charconv>
 #include <cstring>
 #include <new>
 #include <utility>
@@ -55,15 +55,22 @@ struct Refusal {
     throw Refusal{failure, error};
 }
 
+/// At least as many digits as that, with zeros in front.
+std::string Digits(unsigned number, size_t count, int base = 10)
+{
+    std::array<char, 32> digits{};
+    char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number, base).ptr;
+    const std::string text(digits.data(), end);
+    return std::string(count > text.size() ? count - text.size() : 0, '0') + text;
+}
+
 /// A name that nobody else uses, `kCopyTail` characters longer than `stem`.
 std::string FreshName(const std::string& stem)
 {
     static unsigned made = 0;
     const auto process = static_cast<unsigned>(GetCurrentProcessId());
     const auto moment = static_cast<unsigned>(Files().tickCount());
-    std::array<char, kDigits + 1> digits{};
-    std::snprintf(digits.data(), digits.size(), "%08x", (process << 16 ^ moment) + made++);
-    return stem + "." + digits.data() + kCopyEnd;
+    return stem + "." + Digits((process << 16 ^ moment) + made++, kDigits, 16) + kCopyEnd;
 }
 
 std::string FreshPassingName()
@@ -430,11 +437,9 @@ std::string Step::KeepAside(std::string_view bytes) const
 {
     SYSTEMTIME today{};
     GetLocalTime(&today);
-    std::array<char, 64> day{};
-    std::snprintf(day.data(), day.size(), ".%04u-%02u-%02u", unsigned{today.wYear}, unsigned{today.wMonth},
-                  unsigned{today.wDay});
+    const std::string day = "." + Digits(today.wYear, 4) + "-" + Digits(today.wMonth, 2) + "-" + Digits(today.wDay, 2);
     for (int number = 1;; ++number) {
-        const std::string path = m_file + day.data() + (number > 1 ? "-" + std::to_string(number) : "") + kKeptEnd;
+        const std::string path = m_file + day + (number > 1 ? "-" + std::to_string(number) : "") + kKeptEnd;
         if (path.size() >= MAX_PATH)
             Refuse(SaveFailure::KeepingAside, ERROR_FILENAME_EXCED_RANGE);
         PassingFile kept;

@@ -142,12 +142,17 @@ template <auto Member> consteval Control Edit(int id)
             .attached = isReal ? Attached::Real : Attached::None};
 }
 
-/// A list of the option's texts, or of the page's own.
-template <auto Member> consteval Control List(int id, ChoiceTexts texts = OptionOf<Member>()->choices)
+/// A list of the page's own texts, or of the option's.
+template <auto Member> consteval Control List(int id, ChoiceTexts texts)
 {
     if (texts.empty())
         mistake::NothingToChooseFrom();
     return {.id = id, .kind = ControlKind::List, .option = OptionOf<Member>(), .isKept = true, .choices = texts};
+}
+
+template <auto Member> consteval Control List(int id)
+{
+    return List<Member>(id, OptionOf<Member>()->choices);
 }
 
 template <auto Member> consteval Control Check(int id)
