@@ -116,15 +116,9 @@ private:
 /// The row of a field in its record's table. Does not compile where the table has none.
 template <auto Member> consteval const Option* OptionOf()
 {
-    for (const Option& option : RecordFacts<RecordOf<Member>>::options) {
-        if constexpr (std::is_same_v<ValueOf<Member>, int>) {
-            if (option.whole == &FieldAt<Member>)
-                return &option;
-        } else {
-            if (option.real == &FieldAt<Member>)
-                return &option;
-        }
-    }
+    for (const Option& option : RecordFacts<RecordOf<Member>>::options)
+        if (option.field == FieldMark<Member>())
+            return &option;
     mistake::FieldHasNoOptionRow();
     return nullptr;
 }

@@ -4,8 +4,10 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <span>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -106,6 +108,7 @@ struct Option {
     const char* label; ///< as the page words it, without its access key and colon
     OptionKind kind;
     const char* record = nullptr; ///< stands for the record that the row is of
+    std::uint64_t field = 0;      ///< stands for its field
     FieldOf<int> whole = nullptr; ///< one of the two is there
     FieldOf<double> real = nullptr;
     Scaling scaling = Scaling::Never;
@@ -178,10 +181,29 @@ private:
 /// Stands for the record whose field a row names: a table holds the rows of one record only.
 template <class Record> inline constexpr char kRecordMark = 0;
 
+/// Stands for a field: a number from its name. Addresses of what stands for different fields cannot be compared while
+/// compiling where the build looks for null pointers.
+template <auto Member> consteval std::uint64_t FieldMark()
+{
+#ifdef _MSC_VER
+    constexpr std::string_view kName = __FUNCSIG__;
+#else
+    constexpr std::string_view kName = __PRETTY_FUNCTION__;
+#endif
+    std::uint64_t mark = 14695981039346656037U; // FNV-1a
+    for (const char letter : kName)
+        mark = (mark ^ static_cast<unsigned char>(letter)) * 1099511628211U;
+    return mark;
+}
+
 namespace detail {
 template <auto Member> constexpr Option Row(const char* key, const char* label, OptionKind kind)
 {
-    Option option{.key = key, .label = label, .kind = kind, .record = &kRecordMark<RecordOf<Member>>};
+    Option option{.key = key,
+                  .label = label,
+                  .kind = kind,
+                  .record = &kRecordMark<RecordOf<Member>>,
+                  .field = FieldMark<Member>()};
     if constexpr (std::is_same_v<ValueOf<Member>, int>)
         option.whole = &FieldAt<Member>;
     else
