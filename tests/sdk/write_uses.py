@@ -14,6 +14,7 @@ import sys
 SKIPPED = re.compile(r"^(using|friend|typedef|enum|static_assert|DECLARE_|template|extern \"C\"|#)")
 FREE = re.compile(r"^PELMAR_API (?P<result>[\w:&*<> ]+?[&* ])(?P<name>\w+)\((?P<arguments>.*)\)$")
 CONSTRUCTOR = re.compile(r"^(explicit )?(?P<name>\w+)\((?P<arguments>.*)\)$")
+LONE = re.compile(r"^PELMAR_API (?P<end>~)?(?P<name>\w+)\(\)$")
 METHOD = re.compile(r"^(virtual |(?P<static>static ))?(?P<result>[\w:&*<> ]+?[&* ])(?P<name>\w+)\((?P<arguments>.*)\)"
                     r"(?P<const> const)?(?P<rest>( override| = 0)*)$")
 
@@ -80,7 +81,7 @@ def is_for_hosts(owner):
 
 def main():
     include, output = map(pathlib.Path, sys.argv[1:])
-    free, methods, constructors, unread = [], {}, [], []
+    free, methods, constructors, scoped, unread = [], {}, [], [], []
     for header in sorted((include / "PelmarDlgs").rglob("*.h")):
         # Preprocessor lines end with the line, not with ";".
         text = re.sub(r"^#[^\n]*(\\\n[^\n]*)*", "", header.read_text(encoding="utf-8"), flags=re.M)
@@ -104,6 +105,9 @@ def main():
                     unread.append(declaration)
                 elif "= 0" not in found["rest"]:
                     methods.setdefault(name, []).append(found)
+            elif (lone := LONE.match(declaration)) and scopes[-1] == f"class {lone['name']}":
+                if not lone["end"]:  # what lasts for a scope is exported by its two ends
+                    scoped.append(space + lone["name"])
             elif declaration.startswith("PELMAR_API"):
                 found = FREE.match(declaration)
                 (free.append((space, found)) if found else unread.append(declaration))
@@ -133,11 +137,13 @@ def main():
         if is_for_hosts(owner):
             values = ", ".join(f"{kind}{{}}" for kind in types_of(",".join(arguments)).split(", ") if kind)
             calls.append(f"    if (g_uses < 0) // links, and makes none\n        delete new {owner}({values});")
+    for name in scoped:
+        calls.append(f"    if (g_uses < 0)\n        delete new {name};")
     lines += ["} // namespace", "", "int main()", "{", *calls,
               '    std::printf("%d declared functions link\\n", g_uses);', "}", ""]
     output.write_text("\n".join(lines), encoding="utf-8")
     print(f"{len(free)} functions, {sum(map(len, methods.values()))} members of {len(methods)} classes, "
-          f"{len(constructors)} constructors")
+          f"{len(constructors) + len(scoped)} constructors")
 
 
 main()
