@@ -16,6 +16,12 @@ HANDLE OpenToRead(const char* path)
                               nullptr);
 }
 
+Patience PatienceFromNow()
+{
+    constexpr std::uint64_t kMilliseconds = 100;
+    return Patience(Files().tickCount() + kMilliseconds);
+}
+
 bool IsBeingSaved(const char* file)
 {
     const std::string path = LockOf(file);
@@ -32,12 +38,12 @@ bool IsBeingSaved(const char* file)
 
 HeldFile::HeldFile(const char* file) : m_next(std::exchange(g_last, this))
 {
-    constexpr std::uint64_t kMilliseconds = 100;
-    const Patience patience(Files().tickCount() + kMilliseconds);
     // Whoever saves the file goes first: readers that follow one another would keep him out.
-    while (IsBeingSaved(file) && patience.Wait()) {
+    const Patience courtesy = PatienceFromNow();
+    while (IsBeingSaved(file) && courtesy.Wait()) {
     }
-    patience.Insist([&] {
+    // And whoever replaces it has it open for a moment.
+    PatienceFromNow().Insist([&] {
         m_handle = OpenToRead(file);
         return m_handle != INVALID_HANDLE_VALUE;
     });

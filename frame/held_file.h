@@ -4,7 +4,7 @@
 namespace pelmar {
 
 /// Lets nobody write to the file or replace it while it lives. Where the file is missing, or another program does not
-/// let go of it within a tenth of a second, nothing is held.
+/// let go of it within a tenth of a second, nothing is held. Waits as long for a save that is under way.
 class HeldFile {
 public:
     explicit HeldFile(const char* file);

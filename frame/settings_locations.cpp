@@ -4,6 +4,7 @@
 
 #include "PelmarDlgs/library.h"
 #include "frame/fixed_text.h"
+#include "frame/held_file.h"
 #include "frame/locate.h"
 #include "frame/profile.h"
 
@@ -96,6 +97,7 @@ void LocateSettings()
 {
     const HostFiles host = LocateHostFiles();
     const char* const settings = host.settings.c_str();
+    const HeldFile held(settings);
     g_locations.hostFolder = host.folder;
     g_locations.hostSettingsFile = host.settings;
     // The separator stands twice; the host compares this path as text.

@@ -102,6 +102,22 @@ TEST_F(HeldFileTest, IsHeldOnceWhoeverSavesItIsDoneOrTakesTooLong)
     EXPECT_FALSE(Replace());
 }
 
+TEST_F(HeldFileTest, IsHeldThoughItsSaverTakesLongAndHasItOpenThen)
+{
+    const HANDLE saver = CreateFileA((folder.file + ".lock").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                                     FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    const HANDLE writer = OpenToWrite();
+    int slept = 0;
+    calls.whileSleeping = [&] {
+        if (++slept == 2)
+            CloseHandle(writer);
+    };
+    const HeldFile held(folder.file.c_str());
+    EXPECT_EQ(2, slept);
+    EXPECT_FALSE(Replace());
+    CloseHandle(saver);
+}
+
 TEST_F(HeldFileTest, ALockThatNobodyHoldsIsNotWaitedFor)
 {
     WriteBytes(folder.file + ".lock", "left behind");
