@@ -2,7 +2,11 @@
 
 #include <algorithm>
 
+#include "dialogs/default_tools_controls.h"
+#include "dialogs/defaults_file_chooser_controls.h"
+#include "dialogs/nc_defaults_controls.h"
 #include "dialogs/setup_sheet_controls.h"
+#include "dialogs/template_options_controls.h"
 #include "pages/chamfer_mill_controls.h"
 #include "pages/face_mill_controls.h"
 #include "pages/flat_surface_controls.h"
@@ -13,6 +17,7 @@
 #include "pages/milling_3axis_controls.h"
 #include "pages/milling_4axis_controls.h"
 #include "pages/milling_5axis_controls.h"
+#include "pages/rotary_dialog_controls.h"
 #include "pages/round_mill_controls.h"
 #include "pages/slot_mill_controls.h"
 #include "pages/wire_edm_controls.h"
@@ -45,6 +50,42 @@ constexpr RecordDescription kRecords[] = {
     Described<CRoundMillDefsInfo>(kRoundMillPage),     Described<CSlotMillDefsInfo>(kSlotMillPage),
 };
 
+template <class Record> constexpr WindowDescription Edits(const PageFacts& page)
+{
+    return {&RecordFacts<Record>::table, page, ValueAtStart<Record>};
+}
+
+/// What the NC defaults hold does not scale.
+double NCDefaultAtStart(const Option& option, long)
+{
+    constexpr NCDefaults kBuiltIn;
+    return option.Value(&kBuiltIn);
+}
+
+constexpr WindowDescription kWindows[] = {
+    Edits<C2AxisOptionsInfo>(kMilling2AxisPage),
+    Edits<C3AxisOptionsInfo>(kMilling3AxisPage),
+    Edits<C4AxisOptionsInfo>(kMilling4AxisPage),
+    Edits<C5AxisOptionsInfo>(kMilling5AxisPage),
+    Edits<CZRoughOptionsInfo>(kZRoughPage),
+    Edits<CZFinishOptionsInfo>(kZFinishPage),
+    Edits<CFlatSurfaceOptionsInfo>(kFlatSurfacePage),
+    Edits<CFaceMillDefsInfo>(kFaceMillPage),
+    Edits<CChamferMillDefsInfo>(kChamferMillPage),
+    Edits<CRoundMillDefsInfo>(kRoundMillPage),
+    Edits<CGrooveMillDefsInfo>(kGrooveMillPage),
+    Edits<CSlotMillDefsInfo>(kSlotMillPage),
+    Edits<HoleProcessDefsInfo>(kHoleProcessPage),
+    Edits<CLatheOptionsInfo>(kLathePage),
+    Edits<CEDMOptionsInfo>(kWireEdmPage),
+    Edits<C4AxisOptionsInfo>(kRotaryPage),
+    {nullptr, kNCDefaultsPage, NCDefaultAtStart},
+    {nullptr, kDefaultToolsPage, nullptr},
+    {nullptr, kChooserPage, nullptr},
+    {nullptr, kTemplatesPage, nullptr},
+    Edits<CSSheetOptionsInfo>(kSetupSheetPage),
+};
+
 } // namespace
 
 const Control* RecordDescription::ControlOf(const Option& option) const
@@ -64,6 +105,11 @@ const Option* RecordDescription::TypeOf(const Option& option) const
 std::span<const RecordDescription> DescribeRecords()
 {
     return kRecords;
+}
+
+std::span<const WindowDescription> DescribeWindows()
+{
+    return kWindows;
 }
 
 } // namespace pelmar

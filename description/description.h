@@ -26,4 +26,16 @@ struct RecordDescription {
 /// All records that are kept in the settings file, in the order of their sections.
 std::span<const RecordDescription> DescribeRecords();
 
+/// A page or a dialog that leads to topics of the help file.
+struct WindowDescription {
+    /// The record that it edits; null where it edits none of the settings file.
+    const RecordTable* record;
+    const PageFacts& page;
+    /// A built-in value in these units; null where no control edits an option.
+    double (*valueAtStart)(const Option& option, long units);
+};
+
+/// All of them, pages first.
+std::span<const WindowDescription> DescribeWindows();
+
 } // namespace pelmar

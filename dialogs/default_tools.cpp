@@ -4,6 +4,7 @@
 
 #include "PelmarDlgs/saving.h"
 #include "PelmarDlgs/settings_values.h"
+#include "dialogs/default_tools_controls.h"
 #include "frame/tool_library.h"
 #include "pages/page_controls.h"
 #include "resources/resource.h"
@@ -100,13 +101,6 @@ constexpr SettingsRow kSettings[] = {
     {"ToolSortBy", &Settings::ToolSortBy},
 };
 constexpr ChoiceText kSortTypes[] = {IDS_SORT_BY_DIAMETER, IDS_SORT_BY_TOOL_NUMBER, IDS_SORT_BY_DATABASE_NUMBER};
-
-constexpr char kTopic[] = "tvaux-_toolsoptions_options_nc_defaults_tools.htm";
-constexpr Control kControls[] = {
-    Button(IDOK).Help("tvaux-_popupsj_r_hidc_ok_button.htm"),
-    Button(IDCANCEL).Help("tvaux-_popupsa_i_hidc_cancel_button.htm"),
-    Button(ID_HELP).Help("tvaux-_popupsa_i_hidc_help_button.htm"),
-};
 
 // ---- the tool library ----
 
@@ -368,7 +362,7 @@ LRESULT CDefsNCToolsDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 void CDefsNCToolsDlg::OnHelp()
 {
-    ShowHelp(*this, GetCurrentMessage()->pt, kTopic, kControls);
+    ShowHelp(*this, GetCurrentMessage()->pt, kDefaultToolsPage.topic, kDefaultToolsPage.controls);
 }
 
 // ---- the buttons ----

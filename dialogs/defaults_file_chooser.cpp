@@ -9,6 +9,7 @@
 
 #include "PelmarDlgs/saving.h"
 #include "PelmarDlgs/settings_locations.h"
+#include "dialogs/defaults_file_chooser_controls.h"
 #include "dialogs/folder_browser.h"
 #include "dialogs/restart_question.h"
 #include "frame/fixed_text.h"
@@ -29,13 +30,6 @@ constexpr char kFilesSection[] = "NCDefaultFile";
 constexpr size_t kFolderCapacity = 256;
 constexpr size_t kSectionCapacity = 32765;
 constexpr size_t kLongestPart = 511;
-
-constexpr char kGeneralTopic[] = "tvaux-_toolsoptions_tools_options_nc_defaults_paths.htm";
-constexpr char kFolderTopic[] = "tvaux-_toolsoptionspopups_nc_defaults.htm";
-constexpr Control kControls[] = {
-    PageEdit(IDC_CHOOSER_FOLDER).Help(kFolderTopic),
-    Button(IDC_CHOOSER_BROWSE).Help(kFolderTopic),
-};
 
 using NameText = FixedText<SettingsText::kCapacity>;
 
@@ -232,5 +226,5 @@ LRESULT CNCDefaultPath::CheckSaveData(WPARAM, LPARAM)
 
 void CNCDefaultPath::OnHelp()
 {
-    ShowHelp(*this, GetCurrentMessage()->pt, kGeneralTopic, kControls);
+    ShowHelp(*this, GetCurrentMessage()->pt, kChooserPage.topic, kChooserPage.controls);
 }

@@ -1,56 +1,16 @@
 #include "PelmarDlgs/dialogs/nc_defaults.h"
 
-#include <limits>
 #include <string>
 
 #include "PelmarDlgs/saving.h"
 #include "PelmarDlgs/settings_locations.h"
 #include "PelmarDlgs/settings_values.h"
+#include "dialogs/nc_defaults_controls.h"
 #include "dialogs/restart_question.h"
 #include "frame/profile.h"
 #include "frame/tool_library.h"
 #include "pages/page_controls.h"
 #include "resources/resource.h"
-
-namespace pelmar {
-
-/// What the user edits in the dialog. Whole numbers but the material are 0 or 1.
-struct NCDefaults {
-    int displayMode = 0; ///< of the NC commands: 0 toolbar, 1 drop-down menu; from the host's defaults, any number
-    int menuIcons = 0;
-    int defToLastMaterial = 0;
-    int defToLastTool = 0;
-    int defToLastCutControl = 0;
-    int calculateMinimumZ = 0;
-    int alphanumericProgramName = 0;
-    int classic3Axis = 0;
-    int filterSpans = 0;
-    double filterMaxSpan = 0.001;
-    double filterArcTolerance = 0.001;
-    int material = 0;
-};
-
-template <> struct RecordFacts<NCDefaults> {
-    using R = NCDefaults;
-
-    static constexpr Range tolerances{0.0, std::numeric_limits<double>::max()};
-
-    // The dialog keeps them in files of its own; the display mode and the material are not among its boxes and edits.
-    static constexpr Option options[] = {
-        Switch<&R::menuIcons>(kInMemoryOnly, "Иконки в меню"),
-        Switch<&R::defToLastMaterial>(kInMemoryOnly, "Использовать последний материал по умолчанию"),
-        Switch<&R::defToLastTool>(kInMemoryOnly, "Использовать последний инструмент по умолчанию"),
-        Switch<&R::defToLastCutControl>(kInMemoryOnly, "Сохранять параметры операции при выходе"),
-        Switch<&R::calculateMinimumZ>(kInMemoryOnly, "Вычислять нижний предел по оси Z"),
-        Switch<&R::alphanumericProgramName>(kInMemoryOnly, "Алфавитно-цифровой номер программы"),
-        Switch<&R::classic3Axis>(kInMemoryOnly, "Использовать классическое 3-осевое фрезерование"),
-        Switch<&R::filterSpans>(kInMemoryOnly, "Разбивать прямые и дуги на отрезки"),
-        UnscaledLength<&R::filterMaxSpan>(kInMemoryOnly, "Максимальное значение отрезка для прямой").Within(tolerances),
-        UnscaledLength<&R::filterArcTolerance>(kInMemoryOnly, "Допуск для сегмента дуги").Within(tolerances),
-    };
-};
-
-} // namespace pelmar
 
 using namespace pelmar;
 
@@ -127,44 +87,6 @@ struct MaterialRecord {
 };
 using GetMaterial = int(int group, int currentId, MaterialRecord* chosen);
 constexpr int kEveryGroup = 0;
-
-// ---- the controls ----
-
-constexpr char kTopic[] = "tvaux-_toolsoptions_nc_defaults_tools_options.htm";
-constexpr char kDisplayModeTopic[] = "tvaux-_toolsoptionspopups_display_toolbar_dispaly_menu_options.htm";
-
-// The display mode comes before these. The span filter comes before its tolerances: a click on it counts even while a
-// tolerance is refused, so that the edits can be enabled and corrected.
-constexpr Control kControls[] = {
-    Check<&NCDefaults::menuIcons>(IDC_NCDEF_MENU_ICONS)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_menu_icons.htm"),
-    Check<&NCDefaults::defToLastMaterial>(IDC_NCDEF_LAST_MATERIAL)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_use_last_selected_materials_as_default_at_start_up.htm"),
-    Check<&NCDefaults::defToLastTool>(IDC_NCDEF_LAST_TOOL)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_use_last_selected_tools_as_default_at_start_up.htm"),
-    Check<&NCDefaults::defToLastCutControl>(IDC_NCDEF_LAST_CUT_CONTROL)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_save_cut_control_information_at_torvex_exit.htm"),
-    Check<&NCDefaults::calculateMinimumZ>(IDC_NCDEF_MINIMUM_Z)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_calculate_initial_value_for_minimum_z.htm"),
-    Check<&NCDefaults::alphanumericProgramName>(IDC_NCDEF_PROGRAM_NAME)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_program_number_is_alphanumeric_name.htm"),
-    Check<&NCDefaults::classic3Axis>(IDC_NCDEF_CLASSIC_3_AXIS).ByExchangeOnly(),
-    Check<&NCDefaults::filterSpans>(IDC_NCDEF_FILTER_SPANS).ByExchangeOnly(),
-    Edit<&NCDefaults::filterMaxSpan>(IDC_NCDEF_MAX_SPAN),
-    Edit<&NCDefaults::filterArcTolerance>(IDC_NCDEF_ARC_TOLERANCE),
-    Button(IDC_NCDEF_TOOLBAR).Help(kDisplayModeTopic),
-    Button(IDC_NCDEF_MENU).Help(kDisplayModeTopic),
-    Button(IDC_NCDEF_MATERIAL).Help("tvaux-_toolsoptionspopups_choose_material_button_options_nc_defaults_dialog.htm"),
-    Button(IDOK).Help("tvaux-_popupsj_r_hidc_ok_button.htm"),
-    Button(IDCANCEL).Help("tvaux-_popupsa_i_hidc_cancel_button.htm"),
-    Button(ID_HELP).Help("tvaux-_popupsa_i_hidc_help_button.htm"),
-};
 } // namespace
 
 static_assert(int{CDefsNCDefaultsDlg::IDD} == IDD_NC_DEFAULTS);
@@ -297,7 +219,7 @@ BOOL CDefsNCDefaultsDlg::OnInitDialog()
     m_state->values.filterSpans =
         Normalised(ReadHostWhole(kParameterSection, kFilterSpans, m_state->values.filterSpans));
     ReadTolerances(m_state->values);
-    m_state->edits = AttachExpressionEdits(*this, kControls);
+    m_state->edits = AttachExpressionEdits(*this, kNCDefaultsPage.controls);
     m_state->EnableTolerances();
     UpdateData(FALSE);
     return TRUE;
@@ -307,7 +229,7 @@ void CDefsNCDefaultsDlg::DoDataExchange(CDataExchange* exchange)
 {
     CNCDialog::DoDataExchange(exchange);
     DDX_Radio(exchange, IDC_NCDEF_TOOLBAR, m_state->values.displayMode);
-    ExchangeControls(exchange, &m_state->values, kControls);
+    ExchangeControls(exchange, &m_state->values, kNCDefaultsPage.controls);
 }
 
 LRESULT CDefsNCDefaultsDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -380,5 +302,5 @@ void CDefsNCDefaultsDlg::OnBnClickedCheckFilterSpans()
 
 void CDefsNCDefaultsDlg::OnHelp()
 {
-    ShowHelp(*this, GetCurrentMessage()->pt, kTopic, kControls);
+    ShowHelp(*this, GetCurrentMessage()->pt, kNCDefaultsPage.topic, kNCDefaultsPage.controls);
 }

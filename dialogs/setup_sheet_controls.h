@@ -25,7 +25,7 @@ struct SetupSheetTable {
             .ByExchangeOnly()
             .Help("tvaux-_toolsoptionspopups_show_operations_with_unique_tools.htm"),
         // Its items stand in another order than their values.
-        PageList(IDC_SHEET_STYLE, {}).Help("tvaux-_toolsoptionspopups_style_1.htm"),
+        PageList<&R::SetupStyle>(IDC_SHEET_STYLE).Help("tvaux-_toolsoptionspopups_style_1.htm"),
     };
 };
 

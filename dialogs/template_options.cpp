@@ -11,6 +11,7 @@
 #include "PelmarDlgs/template_defaults.h"
 #include "dialogs/folder_browser.h"
 #include "dialogs/restart_question.h"
+#include "dialogs/template_options_controls.h"
 #include "frame/fixed_text.h"
 #include "frame/module.h"
 #include "frame/profile.h"
@@ -24,7 +25,6 @@ constexpr char kSection[] = "DefaultPath";
 constexpr char kFolderKey[] = "ToolpathTemplatesPath";
 constexpr char kUsualFolder[] = "C:\\TORVEX\\Template";
 constexpr size_t kUsualFolderCapacity = 1001;
-constexpr char kTopic[] = "pelmar-_defaults_toolpath_templates.htm";
 
 /// The operation that is never offered.
 constexpr std::int32_t kHiddenOperation = 36;
@@ -491,7 +491,7 @@ LRESULT CTemplateOptions::CheckSaveData(WPARAM, LPARAM)
 
 const char* CTemplateOptions::GetHelpInfo(UINT) const
 {
-    return kTopic;
+    return kTemplatesPage.topic;
 }
 
 void CTemplateOptions::OnHelp()

@@ -163,15 +163,33 @@ consteval Control PageList(int id, ChoiceTexts texts)
     return {.id = id, .kind = ControlKind::List, .choices = texts};
 }
 
+/// The same, of an option.
+template <auto Member> consteval Control PageList(int id)
+{
+    return {.id = id, .kind = ControlKind::List, .option = OptionOf<Member>()};
+}
+
 /// An edit that the page itself exchanges.
 consteval Control PageEdit(int id)
 {
     return {.id = id, .kind = ControlKind::Edit};
 }
 
+/// The same, of an option.
+template <auto Member> consteval Control PageEdit(int id)
+{
+    return {.id = id, .kind = ControlKind::Edit, .option = OptionOf<Member>()};
+}
+
 consteval Control Button(int id)
 {
     return {.id = id, .kind = ControlKind::Button};
+}
+
+/// A button that stands for one value of an option; the page itself sees to it.
+template <auto Member> consteval Control Button(int id)
+{
+    return {.id = id, .kind = ControlKind::Button, .option = OptionOf<Member>()};
 }
 
 /// A control that the table says something of although the template does not hold it.

@@ -2,7 +2,7 @@
 
 #include "frame/help_viewer.h"
 #include "frame/module.h"
-#include "pages/topics.h"
+#include "pages/rotary_dialog_controls.h"
 #include "resources/resource.h"
 
 using namespace pelmar;
@@ -94,5 +94,5 @@ void CDefsRotaryMillDlg::OnKillFEndZ()
 void CDefsRotaryMillDlg::OnHelp()
 {
     EndHelpMode(*this, {});
-    ShowTopic(*this, kRotaryOptionsTopic);
+    ShowTopic(*this, kRotaryPage.topic);
 }

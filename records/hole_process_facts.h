@@ -49,7 +49,7 @@ template <> struct RecordFacts<HoleProcessDefsInfo> {
         Switch<&R::AccurateMode>("AccurateMode", "Режим точного позиционирования"),
         Choice<&R::AccurateDir>("AccurateDir", "Вектор подхода", approaches).Sanitized(HoleDirectionInRange),
         Length<&R::AccurateDist>("AccurateDist", "Расстояние").Within(kNotNegative),
-        Length<&R::AccurateFeedRate>("AccurateFeedRate", "Подача").Within(kNotNegative),
+        Feed<&R::AccurateFeedRate>("AccurateFeedRate", "Подача").Within(kNotNegative),
         Switch<&R::SortReverse>("SortReverse", "Реверс"),
         Switch<&R::SortBiasToVector>("SortBiasToVector", "Использовать поворот для 4/5 осевого позиционирования"),
     };

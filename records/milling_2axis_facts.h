@@ -50,7 +50,7 @@ template <> struct RecordFacts<C2AxisOptionsInfo> {
         Count<&R::SelectMaterial>("SelectMaterial", "Выбор материала"),
         Switch<&R::DispPlungeChanges>("DispPlungeChanges", "Сообщ. о смене врезания"),
         Switch<&R::IslandPlunges>("IslandPlunges", "Пересчет врезания"),
-        Count<&R::LeadAngleTol>("LeadAngleTol", "Допуск угла подвода"),
+        Angle<&R::LeadAngleTol>("LeadAngleTol", "Допуск угла подвода"),
         Switch<&R::AlignPlunges>("AlignPlunges", "Врезание в самой глубокой точке"),
     };
     static constexpr RecordTable table{"Options2x", "2-осевая", options};

@@ -53,6 +53,7 @@ using ChoiceTexts = std::span<const ChoiceText>;
 enum class OptionKind {
     Units,
     Length,
+    Feed,  ///< a length per minute
     Angle, ///< degrees
     Percent,
     Number, ///< a real that is none of these
@@ -245,6 +246,15 @@ template <auto Member> constexpr Option UnscaledLength(const char* key, const ch
     return detail::Row<Member>(key, label, OptionKind::Length);
 }
 
+/// A speed, in lengths per minute; always scaled with the units.
+template <auto Member> constexpr Option Feed(const char* key, const char* label)
+{
+    Option option = detail::Row<Member>(key, label, OptionKind::Feed);
+    option.scaling = Scaling::Always;
+    return option;
+}
+
+/// In degrees; a whole number where its field is one.
 template <auto Member> constexpr Option Angle(const char* key, const char* label)
 {
     return detail::Row<Member>(key, label, OptionKind::Angle);

@@ -25,7 +25,7 @@ template <class R> inline constexpr std::array kPocketPattern = {
 
 template <class R> inline constexpr std::array kPocketPlunges = {
     Switch<&R::IslandPlunges>("IslandPlunges", "Прямое врезание на островках", kOnAtZero),
-    Count<&R::LeadAngleTol>("LeadAngleTol", "Допуск угла подвода"),
+    Angle<&R::LeadAngleTol>("LeadAngleTol", "Допуск угла подвода"),
     Switch<&R::GougeCheck>("GougeCheck", "Контроль пересечений для подвода", kOnOrTwo),
     Switch<&R::AlignPlunges>("AlignPlunges", "Врезание в самой глубокой точке"),
 };

@@ -22,7 +22,7 @@ template <> struct RecordFacts<CSSheetOptionsInfo> {
         Switch<&R::OperationsSetup>("OperationsSetup", "Вывод информации по операциям"),
         Switch<&R::OperationsGraphics>("OperationsGraphics", "Вывод граф. изображения операций"),
         Number<&R::ToolChangeTime>("ToolChangeTime", "Время смены инструмента").Within(0.0, 1000000.0),
-        Length<&R::RapidRate>("RapidRate", "Скорость быстр. перем.").Within(0.001, 1000000.0),
+        Feed<&R::RapidRate>("RapidRate", "Скорость быстр. перем.").Within(0.001, 1000000.0),
     };
     static constexpr RecordTable table{"OptionsSSheet", "Отчет", options};
     static RecordKind<R>& Kind();

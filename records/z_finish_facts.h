@@ -18,7 +18,7 @@ template <> struct RecordFacts<CZFinishOptionsInfo> {
         LengthType<&R::DepthFinishStepType>("DepthFinishStepType", "Чистовой шаг по глубине"),
         Length<&R::SideClearance, &R::SideClearanceType>("SideClearance", "Подход к контуру"),
         LengthType<&R::SideClearanceType>("SideClearanceType", "Подход к контуру"),
-        Count<&R::LeadAngleTol>("LeadAngleTol", "Допуск угла подвода"),
+        Angle<&R::LeadAngleTol>("LeadAngleTol", "Допуск угла подвода"),
         Switch<&R::GougeCheck>("GougeCheck", "Контроль пересечений для подвода", kOnOrTwo),
         Choice<&R::PlungeSelType>("PlungeSelType", "Задание точки врезания", plungePoints),
         Switch<&R::PlungeWarnings>("PlungeWarnings", "Сообщение о смене врезания"),

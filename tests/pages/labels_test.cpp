@@ -73,7 +73,7 @@ const Unbound kRecords[] = {
     {"ChamferMill2x", {"Units"}},
     {"FaceMill2x", {"Units"}},
     {"GrooveMill", {"Units", "PlungeClearType"}},
-    {"HoleProcessLocation", {"Units", "MajorDir", "StepDir", "AccurateDir"}}, // shown by four buttons each
+    {"HoleProcessLocation", {"Units"}},
     {"Options2x", {"Units", "SelectMaterial"}},
     {"Options3x", {"Units"}},
     {"Options4x", {"Units", "StartPX", "StartPY", "StartPZ", "EndPX", "EndPY", "EndPZ"}}, // in a dialog of their own
@@ -81,7 +81,7 @@ const Unbound kRecords[] = {
     {"OptionsEDM", {"Units"}},
     {"OptionsFlatSurface", {"Units", "DepthFirst", "PlungeWarnings", "IslandPlunges", "AlignPlunges"}},
     {"OptionsLathe", {"Units"}},
-    {"OptionsSSheet", {"Units", "SetupStyle", "OperationsGraphics"}},
+    {"OptionsSSheet", {"Units", "OperationsGraphics"}},
     {"OptionsZFinish", {"Units"}},
     {"OptionsZRough", {"Units"}},
     {"RoundMill", {"Units"}},

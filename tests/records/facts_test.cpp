@@ -80,11 +80,11 @@ TEST_P(RecordRows, TakeTheTypeOfALengthFromAnOptionWithTheSameLabel)
     }
 }
 
-TEST_P(RecordRows, ScaleNoOtherThanLengths)
+TEST_P(RecordRows, ScaleNoOtherThanLengthsAndFeeds)
 {
     for (const Option& option : Options())
         if (option.scaling != Scaling::Never) {
-            EXPECT_EQ(OptionKind::Length, option.kind) << option.label;
+            EXPECT_TRUE(option.kind == OptionKind::Length || option.kind == OptionKind::Feed) << option.label;
         }
 }
 

@@ -1,0 +1,31 @@
+#!/usr/bin/env python3
+"""Writes the topics' first sentences and drawings as a table for the library.
+
+usage: make_texts.py HEADER
+"""
+import pathlib
+import sys
+
+import sources
+
+
+def quoted(text):
+    return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
+
+
+def main():
+    # Numbers are inserted into pages only: the library's tips have them from its own tables.
+    found = sources.topics(sources.strings() | {"inch_to_millimetre": "…"})
+    rows = []
+    for topic in found.values():
+        rows.append((topic.name, "", topic.head))
+        rows += [(topic.name, label, part) for part in topic.parts for label in part.labels]
+    lines = ["// Made by help/make_texts.py from help/topics; do not edit.", "constexpr TopicText kTopicTexts[] = {"]
+    for name, label, part in rows:
+        drawing = quoted(part.drawing) if part.drawing else "nullptr"
+        lines.append(f"    {{{quoted(name)}, {quoted(label)}, {quoted(part.first_sentence)}, {drawing}}},")
+    pathlib.Path(sys.argv[1]).write_text("\n".join(lines) + "\n};\n", "utf-8")
+
+
+if __name__ == "__main__":
+    main()
