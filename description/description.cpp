@@ -34,9 +34,52 @@ template <class Record> double ValueAtStart(const Option& option, long units)
     return option.Value(&record);
 }
 
+template <class Record> AnyRecord CopyOf(const void* record)
+{
+    return AnyRecord(record ? new Record(*static_cast<const Record*>(record)) : new Record,
+                     [](void* copy) { delete static_cast<Record*>(copy); });
+}
+
+template <class Record> void Assign(void* to, const void* from)
+{
+    *static_cast<Record*>(to) = *static_cast<const Record*>(from);
+}
+
+template <class Record> Record FactoryStart()
+{
+    if constexpr (requires { RecordFacts<Record>::FactoryStart(); })
+        return RecordFacts<Record>::FactoryStart();
+    else
+        return Record();
+}
+
+template <class Record> constexpr const char* SectionOfFactoryUnits()
+{
+    if constexpr (requires { RecordFacts<Record>::unitsOfDefaultsSection; })
+        return RecordFacts<Record>::unitsOfDefaultsSection;
+    else
+        return RecordFacts<Record>::table.Section();
+}
+
+template <class Record> void TakeFactory(void* record, const ValueSource& defaults, long units)
+{
+    constexpr const RecordTable& table = RecordFacts<Record>::table;
+    *static_cast<Record*>(record) = FactoryStart<Record>();
+    table.Convert(record, defaults.Whole(SectionOfFactoryUnits<Record>(), table.Options().front().key, 0));
+    table.ReadDefaults(record, defaults);
+    table.Convert(record, units);
+}
+
 template <class Record> constexpr RecordDescription Described(const PageFacts& page)
 {
-    return {RecordFacts<Record>::table, page.templateId, page.controls, ValueAtStart<Record>};
+    return {.table = RecordFacts<Record>::table,
+            .templateId = page.templateId,
+            .controls = page.controls,
+            .topic = page.topic,
+            .valueAtStart = ValueAtStart<Record>,
+            .copyOf = CopyOf<Record>,
+            .assign = Assign<Record>,
+            .takeFactory = TakeFactory<Record>};
 }
 
 constexpr RecordDescription kRecords[] = {

@@ -9,8 +9,6 @@ using namespace pelmar;
 
 namespace {
 using Facts = RecordFacts<HoleProcessDefsInfo>;
-
-constexpr char kTemplateKey[] = "StartupTemplate";
 } // namespace
 
 RecordKind<HoleProcessDefsInfo>& Facts::Kind()
@@ -23,22 +21,21 @@ void HoleProcessDefsInfo::Defaults()
 {
     HoleProcessDefsInfo builtIn;
     builtIn.StartupTemplate = StartupTemplate;
-    // The units alone stand in a section of their own.
-    Facts::Kind().Defaults(*this, builtIn, ReadDefaultWhole("HoleProcess", "Units", Units));
+    Facts::Kind().Defaults(*this, builtIn, ReadDefaultWhole(Facts::unitsOfDefaultsSection, "Units", Units));
 }
 
 void HoleProcessDefsInfo::HoleProcessDefs_Save()
 {
     Facts::table.Save(this);
     // The system-wide profile knows the template whatever settings file is in use.
-    WriteSystemText(Facts::table.Section(), kTemplateKey, StartupTemplate);
+    WriteSystemText(Facts::table.Section(), Facts::templateKey, StartupTemplate);
 }
 
 void HoleProcessDefsInfo::HoleProcessDefs_Restore()
 {
     const SettingsReading reading;
     // Not what was saved, which is in the system-wide profile: a settings file names a template of its own or none.
-    StartupTemplate = ReadText(Facts::table.Section(), kTemplateKey).c_str();
+    StartupTemplate = ReadText(Facts::table.Section(), Facts::templateKey).c_str();
     Facts::table.Restore(this);
 }
 

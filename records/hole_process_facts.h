@@ -55,6 +55,11 @@ template <> struct RecordFacts<HoleProcessDefsInfo> {
     };
     static constexpr RecordTable table{"HoleProcessLocation", "Отверстия", options};
     static RecordKind<R>& Kind();
+
+    /// The units of the defaults file alone stand in a section of their own.
+    static constexpr char unitsOfDefaultsSection[] = "HoleProcess";
+    /// The template's key, in the record's section.
+    static constexpr char templateKey[] = "StartupTemplate";
 };
 
 } // namespace pelmar

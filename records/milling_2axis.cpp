@@ -7,8 +7,6 @@ IMPLEMENT_RECORD(C2AxisOptionsInfo, vOptions_Defaults, vOptions_Save, vOptions_R
 
 void C2AxisOptionsInfo::vOptions_Defaults()
 {
-    // Restoring the defaults reports plunge changes, as a fresh record does not.
-    C2AxisOptionsInfo builtIn;
-    builtIn.DispPlungeChanges = 1;
-    pelmar::RecordFacts<C2AxisOptionsInfo>::Kind().Defaults(*this, builtIn);
+    using Facts = pelmar::RecordFacts<C2AxisOptionsInfo>;
+    Facts::Kind().Defaults(*this, Facts::FactoryStart());
 }

@@ -55,6 +55,14 @@ template <> struct RecordFacts<C2AxisOptionsInfo> {
     };
     static constexpr RecordTable table{"Options2x", "2-осевая", options};
     static RecordKind<R>& Kind();
+
+    /// Restoring the defaults reports plunge changes, as a fresh record does not.
+    static R FactoryStart()
+    {
+        R record;
+        record.DispPlungeChanges = 1;
+        return record;
+    }
 };
 
 } // namespace pelmar

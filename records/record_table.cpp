@@ -1,24 +1,21 @@
 #include "records/record_table.h"
 
-#include "PelmarDlgs/saving.h"
-#include "PelmarDlgs/settings_reading.h"
 #include "PelmarDlgs/settings_values.h"
 
 namespace pelmar {
 namespace {
 
-template <class WholeReader, class RealReader>
-void Read(void* record, const Option& option, const char* section, WholeReader readWhole, RealReader readReal)
+void Read(void* record, const Option& option, const char* section, const ValueSource& from)
 {
     if (option.readSection)
         section = option.readSection;
     if (option.whole) {
         int& whole = option.whole(record);
-        const int value = readWhole(section, option.key, whole);
+        const int value = from.Whole(section, option.key, whole);
         whole = option.sanitize ? option.sanitize(value) : value;
     } else {
         double& real = option.real(record);
-        real = readReal(section, option.key, real);
+        real = from.Real(section, option.key, real);
     }
     if (option.afterRead)
         option.afterRead(record);
@@ -26,38 +23,18 @@ void Read(void* record, const Option& option, const char* section, WholeReader r
 
 } // namespace
 
-void RecordTable::Save(const void* record) const
+void RecordTable::Restore(void* record, const ValueSource& from) const
 {
-    SaveStep step;
-    for (const Option& option : m_options) {
-        if (!option.key)
-            continue;
-        if (option.whole)
-            WriteWhole(m_section, option.key, option.Whole(record));
-        else
-            WriteReal(m_section, option.key, option.Real(record));
-    }
-    step.Commit();
-}
-
-void RecordTable::Restore(void* record) const
-{
-    const SettingsReading reading;
     for (const Option& option : m_options)
         if (option.key)
-            Read(record, option, m_section, ReadWhole, ReadReal);
+            Read(record, option, m_section, from);
 }
 
-void RecordTable::ReadDefaults(void* record) const
+void RecordTable::ReadDefaults(void* record, const ValueSource& from) const
 {
     for (const Option& option : m_options.subspan(1))
         if (option.key && option.inDefaults)
-            Read(record, option, m_section, ReadDefaultWhole, ReadDefaultReal);
-}
-
-int RecordTable::UnitsOfDefaults(int fallback) const
-{
-    return ReadDefaultWhole(m_section, m_options.front().key, fallback);
+            Read(record, option, m_section, from);
 }
 
 void RecordTable::Convert(void* record, long units) const

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "records/option.h"
+#include "records/value_source.h"
 
 namespace pelmar {
 
@@ -32,6 +33,8 @@ public:
     constexpr const char* Operation() const { return m_operation; }
     constexpr std::span<const Option> Options() const { return m_options; }
 
+    // With the library's own files:
+
     /// Writes every key to the settings file, in the table's order and in one step. Where that fails, LastSave tells
     /// why.
     void Save(const void* record) const;
@@ -41,6 +44,10 @@ public:
     void ReadDefaults(void* record) const;
     /// The units that the defaults file is in.
     int UnitsOfDefaults(int fallback) const;
+
+    /// The same from another source.
+    void Restore(void* record, const ValueSource& from) const;
+    void ReadDefaults(void* record, const ValueSource& from) const;
     /// Scales the lengths to other units. Only 0 is inch, for the factor: from anything else it is the one back to
     /// inch.
     void Convert(void* record, long units) const;
