@@ -7,6 +7,7 @@
 #include "dialogs/default_tools_controls.h"
 #include "frame/tool_library.h"
 #include "pages/page_controls.h"
+#include "records/global_settings.h"
 #include "resources/resource.h"
 
 using namespace pelmar;
@@ -18,89 +19,48 @@ struct ToolKindRow {
     int text;
     ToolEntryPoint choose;
     ToolEntryPoint describe;
-    const char* section;
-    int builtIn[2]; ///< ids of the inch and the millimetre tool
+    const ToolSection& kept;
 };
 
 // Threading tools are lathe tools, and face, corner-rounding and chamfer mills are mills to the tool library.
 constexpr ToolKindRow kKinds[] = {
-    {IDC_TOOLS_MILL,
-     IDC_TOOLS_MILL_TEXT,
-     ToolEntryPoint::GetMillTool,
-     ToolEntryPoint::LoadMillTool,
-     "MILLTIPI",
-     {44, 2139}},
-    {IDC_TOOLS_DRILL,
-     IDC_TOOLS_DRILL_TEXT,
-     ToolEntryPoint::GetDrillTool,
-     ToolEntryPoint::LoadDrillTool,
-     "DRILLTIPI",
-     {3, 2203}},
-    {IDC_TOOLS_LATHE,
-     IDC_TOOLS_LATHE_TEXT,
-     ToolEntryPoint::GetLatheTool,
-     ToolEntryPoint::LoadLatheTool,
-     "LATHETIPI",
-     {1, 1}},
-    {IDC_TOOLS_LATHE_DRILL,
-     IDC_TOOLS_LATHE_DRILL_TEXT,
-     ToolEntryPoint::GetLDrillTool,
-     ToolEntryPoint::LoadLDrillTool,
-     "LDRILLTIPI",
-     {74, 142}},
-    {IDC_TOOLS_PROBE,
-     IDC_TOOLS_PROBE_TEXT,
-     ToolEntryPoint::GetDgtzTool,
-     ToolEntryPoint::LoadDgtzTool,
-     "DGTZTIPI",
-     {1, 1}},
-    {IDC_TOOLS_EDM, IDC_TOOLS_EDM_TEXT, ToolEntryPoint::GetEdmTool, ToolEntryPoint::LoadEdmTool, "EDMTIPI", {10, 38}},
-    {IDC_TOOLS_THREAD,
-     IDC_TOOLS_THREAD_TEXT,
-     ToolEntryPoint::GetLatheTool,
-     ToolEntryPoint::LoadLatheTool,
-     "THREADTIPI",
-     {113, 113}},
-    {IDC_TOOLS_FACE_MILL,
-     IDC_TOOLS_FACE_MILL_TEXT,
-     ToolEntryPoint::GetMillTool,
-     ToolEntryPoint::LoadMillTool,
-     "FACEMILLTIPI",
-     {1007, 2167}},
-    {IDC_TOOLS_ROUND_MILL,
-     IDC_TOOLS_ROUND_MILL_TEXT,
-     ToolEntryPoint::GetMillTool,
-     ToolEntryPoint::LoadMillTool,
-     "ROUNDMILLTIPI",
-     {335, 2345}},
-    {IDC_TOOLS_CHAMFER_MILL,
-     IDC_TOOLS_CHAMFER_MILL_TEXT,
-     ToolEntryPoint::GetMillTool,
-     ToolEntryPoint::LoadMillTool,
-     "CHAMFERMILLTIPI",
-     {1100, 2161}},
-    {IDC_TOOLS_THREAD_MILL,
-     IDC_TOOLS_THREAD_MILL_TEXT,
-     ToolEntryPoint::GetThreadMillTool,
-     ToolEntryPoint::LoadThreadMillTool,
-     "THREADMILLTIPI",
-     {1, 1}},
+    {IDC_TOOLS_MILL, IDC_TOOLS_MILL_TEXT, ToolEntryPoint::GetMillTool, ToolEntryPoint::LoadMillTool, kMillTools},
+    {IDC_TOOLS_DRILL, IDC_TOOLS_DRILL_TEXT, ToolEntryPoint::GetDrillTool, ToolEntryPoint::LoadDrillTool, kDrillTools},
+    {IDC_TOOLS_LATHE, IDC_TOOLS_LATHE_TEXT, ToolEntryPoint::GetLatheTool, ToolEntryPoint::LoadLatheTool, kLatheTools},
+    {IDC_TOOLS_LATHE_DRILL, IDC_TOOLS_LATHE_DRILL_TEXT, ToolEntryPoint::GetLDrillTool, ToolEntryPoint::LoadLDrillTool,
+     kLatheDrillTools},
+    {IDC_TOOLS_PROBE, IDC_TOOLS_PROBE_TEXT, ToolEntryPoint::GetDgtzTool, ToolEntryPoint::LoadDgtzTool, kProbeTools},
+    {IDC_TOOLS_EDM, IDC_TOOLS_EDM_TEXT, ToolEntryPoint::GetEdmTool, ToolEntryPoint::LoadEdmTool, kEdmTools},
+    {IDC_TOOLS_THREAD, IDC_TOOLS_THREAD_TEXT, ToolEntryPoint::GetLatheTool, ToolEntryPoint::LoadLatheTool,
+     kThreadTools},
+    {IDC_TOOLS_FACE_MILL, IDC_TOOLS_FACE_MILL_TEXT, ToolEntryPoint::GetMillTool, ToolEntryPoint::LoadMillTool,
+     kFaceMillTools},
+    {IDC_TOOLS_ROUND_MILL, IDC_TOOLS_ROUND_MILL_TEXT, ToolEntryPoint::GetMillTool, ToolEntryPoint::LoadMillTool,
+     kRoundMillTools},
+    {IDC_TOOLS_CHAMFER_MILL, IDC_TOOLS_CHAMFER_MILL_TEXT, ToolEntryPoint::GetMillTool, ToolEntryPoint::LoadMillTool,
+     kChamferMillTools},
+    {IDC_TOOLS_THREAD_MILL, IDC_TOOLS_THREAD_MILL_TEXT, ToolEntryPoint::GetThreadMillTool,
+     ToolEntryPoint::LoadThreadMillTool, kThreadMillTools},
 };
 static_assert(std::size(kKinds) == kToolKinds);
-constexpr const char* kUnitKeys[] = {"ToolDefUS", "ToolDefMM"};
 
 using Settings = CDefsNCToolsInfo;
-constexpr char kSection[] = "Settings";
+constexpr const char* kSection = global_section::kSettings;
 struct SettingsRow {
     const char* key;
     int Settings::*value;
 };
 constexpr SettingsRow kSettings[] = {
-    {"MillGaugeLength", &Settings::MillGaugeLength},
-    {"LatheGaugeLength", &Settings::LatheGaugeLength},
-    {"ToolSortBy", &Settings::ToolSortBy},
+    {global_key::kMillGaugeLength, &Settings::MillGaugeLength},
+    {global_key::kLatheGaugeLength, &Settings::LatheGaugeLength},
+    {global_key::kToolSortBy, &Settings::ToolSortBy},
 };
-constexpr ChoiceText kSortTypes[] = {IDS_SORT_BY_DIAMETER, IDS_SORT_BY_TOOL_NUMBER, IDS_SORT_BY_DATABASE_NUMBER};
+
+void ReadFactoryTools(const ToolSection& tools, std::int32_t (&ids)[2])
+{
+    ids[0] = ReadDefaultWhole(tools.section, global_key::kInchTool, tools.inchTool);
+    ids[1] = ReadDefaultWhole(tools.section, global_key::kMillimetreTool, tools.millimetreTool);
+}
 
 // ---- the tool library ----
 
@@ -291,7 +251,7 @@ CDefsNCToolsDlg::~CDefsNCToolsDlg()
 BOOL CDefsNCToolsDlg::OnInitDialog()
 {
     CNCDialog::OnInitDialog();
-    FillList(*this, IDC_TOOLS_SORT_TYPE, kSortTypes);
+    FillList(*this, IDC_TOOLS_SORT_TYPE, kToolSortTypes);
     return TRUE;
 }
 
@@ -330,9 +290,7 @@ void CDefsNCToolsDlg::SetData(OptNCDefToolsData* data)
 LRESULT CDefsNCToolsDlg::SetDefaults(WPARAM, LPARAM)
 {
     for (size_t kind = 0; kind < std::size(kKinds); ++kind)
-        for (size_t units = 0; units < std::size(kUnitKeys); ++units)
-            m_state->tools.toolIds[kind][units] =
-                ReadDefaultWhole(kKinds[kind].section, kUnitKeys[units], kKinds[kind].builtIn[units]);
+        ReadFactoryTools(kKinds[kind].kept, m_state->tools.toolIds[kind]);
     for (const SettingsRow& row : kSettings)
         m_state->settings.*row.value = ReadDefaultWhole(kSection, row.key, 0);
     m_state->UpdateToolDesc();

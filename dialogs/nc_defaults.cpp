@@ -10,6 +10,7 @@
 #include "frame/profile.h"
 #include "frame/tool_library.h"
 #include "pages/page_controls.h"
+#include "records/global_settings.h"
 #include "resources/resource.h"
 
 using namespace pelmar;
@@ -22,22 +23,8 @@ constexpr char kDisplaySection[] = "DefaultDisplayParameter";
 constexpr char kDisplayMode[] = "NcDisplayMode";
 constexpr char kMenuIcons[] = "NcMenuIcons";
 
-constexpr char kParameterSection[] = "DefaultNCParameter";
+constexpr const char* kParameterSection = global_section::kParameters;
 constexpr char kClassic3Axis[] = "Classic3Axis";
-constexpr char kFilterSpans[] = "FilterSpans";
-constexpr char kArcTolerance[] = "FilterArcTol";
-// The longest span has another name where it is stored until the restart; it is read under the first only.
-constexpr char kMaxSpan[] = "FilterMaxSpan";
-constexpr char kMaxSpanUntilRestart[] = "FilterLineTol";
-
-constexpr char kStartUpSection[] = "ALLTIPI";
-constexpr char kLastMaterial[] = "DefToLastMaterial;"; // the semicolon is part of the key
-constexpr char kLastTool[] = "DefToLastTool";
-constexpr char kLastCutControl[] = "DefToLastCutCtrl";
-
-constexpr char kSettingsSection[] = "Settings";
-constexpr char kProgramName[] = "ProgramName";
-constexpr char kDialogBits[] = "UsePLXDialogs";
 constexpr int kMinimumZBit = 4; // the other bits are other dialogs'
 
 constexpr int Normalised(int flag)
@@ -67,15 +54,16 @@ int ReadHostDefault(const char* key)
 
 void ReadTolerances(NCDefaults& values)
 {
-    values.filterMaxSpan = ReadDefaultReal(kParameterSection, kMaxSpan, values.filterMaxSpan);
-    values.filterArcTolerance = ReadDefaultReal(kParameterSection, kArcTolerance, values.filterArcTolerance);
+    values.filterMaxSpan = ReadDefaultReal(kParameterSection, global_key::kMaxSpan, values.filterMaxSpan);
+    values.filterArcTolerance =
+        ReadDefaultReal(kParameterSection, global_key::kArcTolerance, values.filterArcTolerance);
 }
 
 void WriteSpanFilter(const NCDefaults& values, const char* maxSpanKey)
 {
-    WriteWhole(kParameterSection, kFilterSpans, values.filterSpans);
+    WriteWhole(kParameterSection, global_key::kFilterSpans, values.filterSpans);
     WriteReal(kParameterSection, maxSpanKey, values.filterMaxSpan);
-    WriteReal(kParameterSection, kArcTolerance, values.filterArcTolerance);
+    WriteReal(kParameterSection, global_key::kArcTolerance, values.filterArcTolerance);
 }
 
 // ---- the tool library ----
@@ -117,7 +105,7 @@ public:
         WriteHostWhole(kDisplaySection, kDisplayMode, values.displayMode);
         WriteHostWhole(kDisplaySection, kMenuIcons, values.menuIcons);
         WriteHostWhole(kParameterSection, kClassic3Axis, values.classic3Axis);
-        WriteSpanFilter(values, kMaxSpanUntilRestart);
+        WriteSpanFilter(values, global_key::kMaxSpanUntilRestart);
         step.Commit();
     }
 
@@ -199,7 +187,7 @@ void CDefsNCDefaultsDlg::SetData(OptNCDefData* data)
 
     SaveStep step;
     WriteHostWhole(kParameterSection, kClassic3Axis, m_state->values.classic3Axis);
-    WriteSpanFilter(m_state->values, kMaxSpan);
+    WriteSpanFilter(m_state->values, global_key::kMaxSpan);
     step.Commit();
 }
 
@@ -217,7 +205,7 @@ BOOL CDefsNCDefaultsDlg::OnInitDialog()
     m_state->needsRestart = false;
 
     m_state->values.filterSpans =
-        Normalised(ReadHostWhole(kParameterSection, kFilterSpans, m_state->values.filterSpans));
+        Normalised(ReadHostWhole(kParameterSection, global_key::kFilterSpans, m_state->values.filterSpans));
     ReadTolerances(m_state->values);
     m_state->edits = AttachExpressionEdits(*this, kNCDefaultsPage.controls);
     m_state->EnableTolerances();
@@ -242,14 +230,17 @@ LRESULT CDefsNCDefaultsDlg::SetDefaults(WPARAM, LPARAM)
 {
     m_state->values.displayMode = ReadHostDefault(kDisplayMode);
     m_state->values.menuIcons = IsOne(ReadHostDefault(kMenuIcons));
-    m_state->values.defToLastMaterial = IsOne(ReadDefaultWhole(kStartUpSection, kLastMaterial, 0));
-    m_state->values.defToLastTool = IsOne(ReadDefaultWhole(kStartUpSection, kLastTool, 0));
-    m_state->values.defToLastCutControl = IsOne(ReadDefaultWhole(kStartUpSection, kLastCutControl, 0));
-    m_state->values.alphanumericProgramName = IsOne(ReadDefaultWhole(kSettingsSection, kProgramName, 0));
-    m_state->values.calculateMinimumZ = Normalised(ReadDefaultWhole(kSettingsSection, kDialogBits, 0) & kMinimumZBit);
+    m_state->values.defToLastMaterial = IsOne(ReadDefaultWhole(global_section::kStartUp, global_key::kLastMaterial, 0));
+    m_state->values.defToLastTool = IsOne(ReadDefaultWhole(global_section::kStartUp, global_key::kLastTool, 0));
+    m_state->values.defToLastCutControl =
+        IsOne(ReadDefaultWhole(global_section::kStartUp, global_key::kLastCutControl, 0));
+    m_state->values.alphanumericProgramName =
+        IsOne(ReadDefaultWhole(global_section::kSettings, global_key::kProgramName, 0));
+    m_state->values.calculateMinimumZ =
+        Normalised(ReadDefaultWhole(global_section::kSettings, global_key::kDialogBits, 0) & kMinimumZBit);
     m_state->values.classic3Axis = IsOne(ReadHostWhole(kParameterSection, kClassic3Axis, 0));
     m_state->values.filterSpans =
-        Normalised(ReadDefaultWhole(kParameterSection, kFilterSpans, m_state->values.filterSpans));
+        Normalised(ReadDefaultWhole(kParameterSection, global_key::kFilterSpans, m_state->values.filterSpans));
     ReadTolerances(m_state->values);
     m_state->EnableTolerances();
     UpdateData(FALSE);

@@ -49,35 +49,34 @@ struct NCDefaultsTable {
 
     static constexpr char displayModeTopic[] = "tvaux-_toolsoptionspopups_display_toolbar_dispaly_menu_options.htm";
 
-// The display mode comes before these. The span filter comes before its tolerances: a click on it counts even while a
-// tolerance is refused, so that the edits can be enabled and corrected.
-static constexpr std::array others = {
-    Check<&R::menuIcons>(IDC_NCDEF_MENU_ICONS)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_menu_icons.htm"),
-    Check<&R::defToLastMaterial>(IDC_NCDEF_LAST_MATERIAL)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_use_last_selected_materials_as_default_at_start_up.htm"),
-    Check<&R::defToLastTool>(IDC_NCDEF_LAST_TOOL)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_use_last_selected_tools_as_default_at_start_up.htm"),
-    Check<&R::defToLastCutControl>(IDC_NCDEF_LAST_CUT_CONTROL)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_save_cut_control_information_at_torvex_exit.htm"),
-    Check<&R::calculateMinimumZ>(IDC_NCDEF_MINIMUM_Z)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_calculate_initial_value_for_minimum_z.htm"),
-    Check<&R::alphanumericProgramName>(IDC_NCDEF_PROGRAM_NAME)
-        .ByExchangeOnly()
-        .Help("tvaux-_toolsoptionspopups_program_number_is_alphanumeric_name.htm"),
-    Check<&R::classic3Axis>(IDC_NCDEF_CLASSIC_3_AXIS).ByExchangeOnly(),
-    Check<&R::filterSpans>(IDC_NCDEF_FILTER_SPANS).ByExchangeOnly(),
-    Edit<&R::filterMaxSpan>(IDC_NCDEF_MAX_SPAN),
-    Edit<&R::filterArcTolerance>(IDC_NCDEF_ARC_TOLERANCE),
-    Button(IDC_NCDEF_TOOLBAR).Help(displayModeTopic),
-    Button(IDC_NCDEF_MENU).Help(displayModeTopic),
-    Button(IDC_NCDEF_MATERIAL).Help("tvaux-_toolsoptionspopups_choose_material_button_options_nc_defaults_dialog.htm"),
-};
+    // The display mode comes before these. The span filter comes before its tolerances: a click on it counts even while
+    // a tolerance is refused, so that the edits can be enabled and corrected.
+    static constexpr std::array others = {
+        Check<&R::menuIcons>(IDC_NCDEF_MENU_ICONS).ByExchangeOnly().Help("tvaux-_toolsoptionspopups_menu_icons.htm"),
+        Check<&R::defToLastMaterial>(IDC_NCDEF_LAST_MATERIAL)
+            .ByExchangeOnly()
+            .Help("tvaux-_toolsoptionspopups_use_last_selected_materials_as_default_at_start_up.htm"),
+        Check<&R::defToLastTool>(IDC_NCDEF_LAST_TOOL)
+            .ByExchangeOnly()
+            .Help("tvaux-_toolsoptionspopups_use_last_selected_tools_as_default_at_start_up.htm"),
+        Check<&R::defToLastCutControl>(IDC_NCDEF_LAST_CUT_CONTROL)
+            .ByExchangeOnly()
+            .Help("tvaux-_toolsoptionspopups_save_cut_control_information_at_torvex_exit.htm"),
+        Check<&R::calculateMinimumZ>(IDC_NCDEF_MINIMUM_Z)
+            .ByExchangeOnly()
+            .Help("tvaux-_toolsoptionspopups_calculate_initial_value_for_minimum_z.htm"),
+        Check<&R::alphanumericProgramName>(IDC_NCDEF_PROGRAM_NAME)
+            .ByExchangeOnly()
+            .Help("tvaux-_toolsoptionspopups_program_number_is_alphanumeric_name.htm"),
+        Check<&R::classic3Axis>(IDC_NCDEF_CLASSIC_3_AXIS).ByExchangeOnly(),
+        Check<&R::filterSpans>(IDC_NCDEF_FILTER_SPANS).ByExchangeOnly(),
+        Edit<&R::filterMaxSpan>(IDC_NCDEF_MAX_SPAN),
+        Edit<&R::filterArcTolerance>(IDC_NCDEF_ARC_TOLERANCE),
+        Button(IDC_NCDEF_TOOLBAR).Help(displayModeTopic),
+        Button(IDC_NCDEF_MENU).Help(displayModeTopic),
+        Button(IDC_NCDEF_MATERIAL)
+            .Help("tvaux-_toolsoptionspopups_choose_material_button_options_nc_defaults_dialog.htm"),
+    };
     static constexpr auto controls = Joined(others, kDialogButtons);
 };
 
