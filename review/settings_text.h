@@ -1,0 +1,103 @@
+// A settings file's text as the platform's profile functions read it, with what these pass over in silence.
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "records/value_source.h"
+
+namespace pelmar::review {
+
+/// What a settings file's bytes are as a whole.
+enum class TextState {
+    Sound,
+    Empty,
+    Utf16,      ///< every value would have to be guessed
+    Utf8Marked, ///< begins with the mark of UTF-8, which the platform takes for a part of the first line
+    Zeros,      ///< holds zero bytes, as a power cut leaves them
+    TooLarge,
+};
+
+struct TextLine {
+    enum class Kind { Section, Entry, Comment, Other };
+
+    Kind kind = Kind::Other;
+    int number = 0; ///< from 1
+    std::string_view section;
+    std::string_view key;   ///< of an entry; the whole line where it is something else
+    std::string_view value; ///< without the blanks around it
+};
+
+/// What becomes of a text, line by line.
+struct LineEdits {
+    std::map<int, std::string> replaced;              ///< by line number; an empty one goes
+    std::map<int, std::vector<std::string>> inserted; ///< after the line
+    std::vector<std::string> appended;                ///< at the end
+    std::string sectionOfLast;                        ///< what the last appended line is of
+
+    void AppendSection(const std::string& section, const std::string& entry)
+    {
+        sectionOfLast = section;
+        appended.insert(appended.end(), {"[" + section + "]", entry});
+    }
+};
+
+/// Bytes of a settings file, in its own code page, and the lines in them. Blank lines are left out. Names are compared
+/// without regard to the case of Latin letters.
+class SettingsText {
+public:
+    /// More is no settings file. A full one has about 12,000 bytes.
+    static constexpr std::size_t kLargest = 4U << 20;
+
+    /// Nothing: as a missing file.
+    SettingsText() : SettingsText(std::string()) {}
+    explicit SettingsText(std::string bytes);
+
+    TextState State() const { return m_state; }
+    /// Empty unless the text is sound.
+    std::span<const TextLine> Lines() const { return m_lines; }
+    /// The line that counts for a key: the first one in the first section of that name. Null where there is none.
+    const TextLine* Find(std::string_view section, std::string_view key) const;
+    bool HasSection(std::string_view section) const;
+    const std::string& Bytes() const { return *m_bytes; }
+    SettingsText Edited(const LineEdits& edits) const;
+
+private:
+    void AddLine(std::string_view line, int number);
+
+    std::shared_ptr<const std::string> m_bytes; ///< the lines look into it
+    TextState m_state;
+    std::vector<TextLine> m_lines;
+    std::string m_section;     ///< that the next line is of, in small letters
+    bool m_isRepeated = false; ///< it has been there before
+    std::string_view m_sectionName;
+    std::unordered_map<std::string, std::size_t> m_entries; ///< section, line feed, key: the line that counts
+    std::unordered_map<std::string, int> m_sections;        ///< and the line that it begins in
+};
+
+/// A settings text as the library reads it.
+class TextValues final : public ValueSource {
+public:
+    explicit TextValues(const SettingsText& text) : m_text(text) {}
+
+    int Whole(const char* section, const char* key, int fallback) const override;
+    double Real(const char* section, const char* key, double fallback) const override;
+
+private:
+    const SettingsText& m_text;
+};
+
+/// A value as the platform hands it out: without quotes around it.
+std::string_view Unquoted(std::string_view value);
+
+/// In small letters, as far as they are Latin.
+std::string Lowered(std::string_view name);
+bool IsSameName(std::string_view one, std::string_view other);
+
+} // namespace pelmar::review
