@@ -1,5 +1,5 @@
 # What a host's developer gets (cmake --install): headers, import libraries, DLLs and a CMake package. And what a user
-# gets (cpack): a folder with the reference host, ready to start.
+# gets (cpack): a folder with the reference host, ready to start; the symbols of all that come in a package of their own.
 include(CMakePackageConfigHelpers)
 
 install(FILES include/PelmarDlgs.h DESTINATION include)
@@ -17,6 +17,8 @@ install(TARGETS ${libraries} EXPORT PelmarDlgsTargets
 if(MINGW)
     file(GLOB runtimes "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/lib*.dll")
     install(FILES ${runtimes} DESTINATION bin)
+    install(DIRECTORY "${PROJECT_SOURCE_DIR}/licences" DESTINATION .)
+    install(DIRECTORY "${PELMAR_SYMBOLS}" DESTINATION . COMPONENT symbols EXCLUDE_FROM_ALL)
 endif()
 
 set(package lib/cmake/PelmarDlgs)
@@ -29,9 +31,10 @@ install(FILES "${PROJECT_BINARY_DIR}/PelmarDlgsConfig.cmake" "${PROJECT_BINARY_D
 install(DIRECTORY "${PROJECT_BINARY_DIR}/TORVEX" DESTINATION . COMPONENT host EXCLUDE_FROM_ALL)
 set(CPACK_GENERATOR ZIP)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
-set(CPACK_COMPONENTS_ALL host)
-set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_COMPONENTS_ALL host symbols)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
 set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY OFF)
-set(CPACK_PACKAGE_FILE_NAME TORVEX-${PROJECT_VERSION})
+set(CPACK_ARCHIVE_HOST_FILE_NAME TORVEX-${PROJECT_VERSION})
+set(CPACK_ARCHIVE_SYMBOLS_FILE_NAME symbols-${PROJECT_VERSION})
 include(CPack)

@@ -29,6 +29,29 @@ if(WIN32)
     set(CMAKE_SHARED_MODULE_PREFIX "")
 endif()
 
+# What is delivered comes without its symbols, which cost every start their loading; they are kept in symbols/, where a
+# debugger finds them by the name that the file holds.
+set(PELMAR_SYMBOLS "${CMAKE_BINARY_DIR}/symbols")
+if(MINGW)
+    file(MAKE_DIRECTORY "${PELMAR_SYMBOLS}")
+endif()
+
+# keep_symbols_apart(TARGET...): does so after each link, with the lines of the sources.
+function(keep_symbols_apart)
+    if(NOT MINGW OR PELMAR_COVERAGE OR PELMAR_TRAP_UNDEFINED)
+        return()
+    endif()
+    foreach(target IN LISTS ARGN)
+        target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-g1>)
+        set(symbols "${PELMAR_SYMBOLS}/$<TARGET_FILE_NAME:${target}>.debug")
+        add_custom_command(TARGET ${target} POST_BUILD
+            COMMAND ${CMAKE_OBJCOPY} --only-keep-debug $<TARGET_FILE:${target}> "${symbols}"
+            COMMAND ${CMAKE_STRIP} --strip-unneeded $<TARGET_FILE:${target}>
+            COMMAND ${CMAKE_OBJCOPY} --add-gnu-debuglink=${symbols} $<TARGET_FILE:${target}>
+            VERBATIM)
+    endforeach()
+endfunction()
+
 # The compiler's own run-time DLLs go beside the programs: exceptions and strings cross the DLLs' borders, so all
 # of them share one copy.
 if(MINGW)
@@ -39,6 +62,13 @@ if(MINGW)
             find_file(path_${runtime} ${runtime} PATHS /usr/x86_64-w64-mingw32/lib NO_CMAKE_FIND_ROOT_PATH REQUIRED)
             set(path "${path_${runtime}}")
         endif()
-        file(COPY "${path}" DESTINATION "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+        set(delivered "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${runtime}")
+        if("${path}" IS_NEWER_THAN "${delivered}" OR NOT EXISTS "${PELMAR_SYMBOLS}/${runtime}.debug")
+            file(MAKE_DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+            execute_process(COMMAND ${CMAKE_OBJCOPY} --only-keep-debug "${path}" "${PELMAR_SYMBOLS}/${runtime}.debug"
+                            COMMAND_ERROR_IS_FATAL ANY)
+            execute_process(COMMAND ${CMAKE_STRIP} --strip-unneeded -o "${delivered}" "${path}"
+                            COMMAND_ERROR_IS_FATAL ANY)
+        endif()
     endforeach()
 endif()

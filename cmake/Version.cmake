@@ -11,3 +11,9 @@ function(add_version_resource version_target version_description)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${PROJECT_BINARY_DIR}/version/${version_target}.rc @ONLY)
     target_sources(${version_target} PRIVATE ${PROJECT_BINARY_DIR}/version/${version_target}.rc)
 endfunction()
+
+# A DLL or a program that users get: it tells its version, and its symbols are apart.
+function(deliver target description)
+    add_version_resource(${target} "${description}")
+    keep_symbols_apart(${target})
+endfunction()
