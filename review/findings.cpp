@@ -70,7 +70,7 @@ private:
         m_isRepeatedSection = !m_sections.insert(Lowered(line.section)).second;
         m_keys.clear();
         if (!m_isKnownSection)
-            Add(FindingKind::UnknownSection, line).nearest = NearestSection(line.section);
+            Add(FindingKind::UnknownSection, line).nearest = IsGuessWanted() ? NearestSection(line.section) : "";
         else if (m_isRepeatedSection)
             Add(FindingKind::RepeatedSection, line);
     }
@@ -86,7 +86,7 @@ private:
             return;
         const Setting* const setting = FindSetting(line.section, line.key);
         if (!IsKnownKey(line.section, line.key)) {
-            Add(FindingKind::UnknownKey, line).nearest = NearestKey(line.section, line.key);
+            Add(FindingKind::UnknownKey, line).nearest = IsGuessWanted() ? NearestKey(line.section, line.key) : "";
             return;
         }
         const auto [first, isFirst] = m_keys.emplace(Lowered(line.key), line.value);
@@ -161,6 +161,13 @@ private:
             }
     }
 
+    /// A file with more slips than this is none: the search for what was meant would take long and help nobody.
+    bool IsGuessWanted()
+    {
+        constexpr int kMostGuesses = 50;
+        return ++m_guesses <= kMostGuesses;
+    }
+
     Finding& Add(FindingKind kind, const TextLine& line)
     {
         const bool isEntry = line.kind == TextLine::Kind::Entry;
@@ -187,6 +194,7 @@ private:
     std::map<std::string, std::string_view> m_keys; ///< of the section that is gone through, with what they hold
     bool m_isKnownSection = false;
     bool m_isRepeatedSection = false;
+    int m_guesses = 0;
 };
 
 std::vector<Finding> WholeFile(FindingKind kind)

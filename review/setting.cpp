@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <unordered_map>
 
 #include "review/settings_text.h"
 
@@ -56,6 +57,9 @@ public:
 
     void Consider(std::string_view candidate, const std::string& found)
     {
+        const std::size_t longer = std::max(candidate.size(), m_name.size());
+        if (longer - std::min(candidate.size(), m_name.size()) >= m_distance)
+            return;
         const std::size_t distance = DistanceOf(m_name, Lowered(candidate));
         if (distance >= m_distance || distance >= candidate.size())
             return;
@@ -88,10 +92,14 @@ std::span<const Setting> AllSettings()
 
 const Setting* FindSetting(std::string_view section, std::string_view key)
 {
-    for (const Setting& setting : AllSettings())
-        if (IsSameName(setting.Key(), key) && IsSameName(setting.Section(), section))
-            return &setting;
-    return nullptr;
+    static const auto byName = [] {
+        std::unordered_map<EntryName, const Setting*, EntryNameHash> settings;
+        for (const Setting& setting : AllSettings())
+            settings.emplace(EntryName{setting.Section(), setting.Key()}, &setting);
+        return settings;
+    }();
+    const auto found = byName.find({section, key});
+    return found == byName.end() ? nullptr : found->second;
 }
 
 bool IsKnownKey(std::string_view section, std::string_view key)

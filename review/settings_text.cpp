@@ -45,9 +45,9 @@ std::size_t EndOfLine(std::string_view rest)
     return end == std::string_view::npos ? rest.size() : end + 1;
 }
 
-std::string EntryName(std::string_view section, std::string_view key)
+constexpr char LoweredLetter(char letter)
 {
-    return Lowered(section) + '\n' + Lowered(key);
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
 int DigitOf(char letter)
@@ -96,20 +96,37 @@ int WholeOf(std::string_view text)
     return static_cast<int>(isNegative ? 0U - number : number);
 }
 
+/// Where a section begins is kept under a name that no key has.
+EntryName SectionName(std::string_view section)
+{
+    return {section, "\n"};
+}
+
 } // namespace
 
 std::string Lowered(std::string_view name)
 {
     std::string lowered(name);
-    for (char& letter : lowered)
-        if (letter >= 'A' && letter <= 'Z')
-            letter = static_cast<char>(letter - 'A' + 'a');
+    std::ranges::transform(lowered, lowered.begin(), LoweredLetter);
     return lowered;
 }
 
 bool IsSameName(std::string_view one, std::string_view other)
 {
-    return one.size() == other.size() && Lowered(one) == Lowered(other);
+    return std::ranges::equal(one, other, {}, LoweredLetter, LoweredLetter);
+}
+
+std::size_t EntryNameHash::operator()(const EntryName& name) const
+{
+    std::uint64_t hash = 14695981039346656037U; // FNV-1a
+    const auto add = [&hash](std::string_view text) {
+        for (const char letter : text)
+            hash = (hash ^ static_cast<unsigned char>(LoweredLetter(letter))) * 1099511628211U;
+    };
+    add(name.section);
+    add("\n");
+    add(name.key);
+    return static_cast<std::size_t>(hash);
 }
 
 std::string_view Unquoted(std::string_view value)
@@ -136,12 +153,11 @@ SettingsText::SettingsText(std::string bytes)
 
 void SettingsText::AddLine(std::string_view line, int number)
 {
-    TextLine entry{.number = number, .section = m_sectionName, .key = line, .value = {}};
+    TextLine entry{.number = number, .section = m_section, .key = line, .value = {}};
     if (const std::size_t end = line.rfind(']'); line.front() == '[' && end != std::string_view::npos) {
         entry.kind = TextLine::Kind::Section;
-        entry.section = m_sectionName = line.substr(1, end - 1);
-        m_section = Lowered(m_sectionName);
-        m_isRepeated = !m_sections.emplace(m_section, number).second;
+        entry.section = m_section = line.substr(1, end - 1);
+        m_isRepeated = !m_entries.emplace(SectionName(m_section), m_lines.size()).second;
         m_lines.push_back(entry);
         return;
     }
@@ -153,20 +169,20 @@ void SettingsText::AddLine(std::string_view line, int number)
         entry.key = Trimmed(line.substr(0, equals));
         entry.value = Trimmed(line.substr(equals + 1));
         if (!m_isRepeated)
-            m_entries.emplace(EntryName(m_section, entry.key), m_lines.size());
+            m_entries.emplace(EntryName{m_section, entry.key}, m_lines.size());
     }
     m_lines.push_back(entry);
 }
 
 const TextLine* SettingsText::Find(std::string_view section, std::string_view key) const
 {
-    const auto found = m_entries.find(EntryName(section, key));
+    const auto found = m_entries.find({section, key});
     return found == m_entries.end() ? nullptr : &m_lines[found->second];
 }
 
 bool SettingsText::HasSection(std::string_view section) const
 {
-    return m_sections.contains(Lowered(section));
+    return m_entries.contains(SectionName(section));
 }
 
 SettingsText SettingsText::Edited(const LineEdits& edits) const

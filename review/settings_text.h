@@ -14,6 +14,24 @@
 
 namespace pelmar::review {
 
+/// In small letters, as far as they are Latin.
+std::string Lowered(std::string_view name);
+bool IsSameName(std::string_view one, std::string_view other);
+
+/// A key of a section, to look it up by.
+struct EntryName {
+    std::string_view section;
+    std::string_view key;
+
+    friend bool operator==(const EntryName& one, const EntryName& other)
+    {
+        return IsSameName(one.section, other.section) && IsSameName(one.key, other.key);
+    }
+};
+struct EntryNameHash {
+    std::size_t operator()(const EntryName& name) const;
+};
+
 /// What a settings file's bytes are as a whole.
 enum class TextState {
     Sound,
@@ -74,11 +92,9 @@ private:
     std::shared_ptr<const std::string> m_bytes; ///< the lines look into it
     TextState m_state;
     std::vector<TextLine> m_lines;
-    std::string m_section;     ///< that the next line is of, in small letters
-    bool m_isRepeated = false; ///< it has been there before
-    std::string_view m_sectionName;
-    std::unordered_map<std::string, std::size_t> m_entries; ///< section, line feed, key: the line that counts
-    std::unordered_map<std::string, int> m_sections;        ///< and the line that it begins in
+    std::string_view m_section;                                          ///< that the next line is of
+    bool m_isRepeated = false;                                           ///< it has been there before
+    std::unordered_map<EntryName, std::size_t, EntryNameHash> m_entries; ///< and the line that counts
 };
 
 /// A settings text as the library reads it.
@@ -95,9 +111,5 @@ private:
 
 /// A value as the platform hands it out: without quotes around it.
 std::string_view Unquoted(std::string_view value);
-
-/// In small letters, as far as they are Latin.
-std::string Lowered(std::string_view name);
-bool IsSameName(std::string_view one, std::string_view other);
 
 } // namespace pelmar::review

@@ -56,6 +56,17 @@ TEST(Findings, AnUnknownKeyThatResemblesNothingHasNoNearest)
     EXPECT_EQ(TheOne("[Options2x]\nqwertyuiop=1\n").nearest, "");
 }
 
+TEST(Findings, AFileOfSlipsOnlyIsLookedThroughWithoutGuessingAtEachOfThem)
+{
+    std::string text = "[Options2x]\n";
+    for (int line = 0; line < 100; ++line)
+        text += "SideRoughtStep" + std::to_string(line) + "=1\n";
+    const std::vector<Finding> findings = FoundBesidesMissing(text);
+    ASSERT_EQ(findings.size(), 100U);
+    EXPECT_EQ(findings[49].nearest, "SideRoughStep");
+    EXPECT_EQ(findings[50].nearest, "");
+}
+
 TEST(Findings, AnUnknownSectionIsToldOnceAndItsKeysAreNot)
 {
     const Finding finding = TheOne("[Option2x]\nSideRoughStep=abc\nWhatever=1\n");
