@@ -22,7 +22,7 @@ def main():
         rows += [(topic.name, label, part) for part in topic.parts for label in part.labels]
     lines = ["// Made by help/make_texts.py from help/topics; do not edit.", "constexpr TopicText kTopicTexts[] = {"]
     for name, label, part in rows:
-        drawing = quoted(part.drawing) if part.drawing else "nullptr"
+        drawing = quoted("HELP_" + part.drawing) if part.drawing else "nullptr"
         lines.append(f"    {{{quoted(name)}, {quoted(label)}, {quoted(part.first_sentence)}, {drawing}}},")
     pathlib.Path(sys.argv[1]).write_text("\n".join(lines) + "\n};\n", "utf-8")
 
