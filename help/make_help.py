@@ -13,6 +13,7 @@ import json
 import pathlib
 import re
 import shutil
+import struct
 import subprocess
 import sys
 
@@ -201,7 +202,7 @@ class Maker:
         """One option of a control, as cells: field, values, unit, factory value, key."""
         option = control["option"]
         start = "<br>".join(map(escaped, self.words.at_start(option)))
-        key = f"<code>[{entry.window.section}] {option['key']}</code>" if option["key"] else "не сохраняется"
+        key = f"<code>{option['key']}</code>" if option["key"] else "не сохраняется"
         if not entry.window.section:
             key = "в файлах диалога"
         return [escaped(self.words.values(option, control["items"])), escaped(self.words.unit(option)), start, key]
@@ -217,6 +218,7 @@ class Maker:
                     where = escaped(window.name) + (" (поле скрыто)" if entry.is_hidden else "")
                     if control["option"]:
                         *cells, key = self.fact_rows(entry, control)
+                        key = key.replace("<code>", f"<code>[{window.section}] ")
                         row = gathered.setdefault((entry.label, *cells), {})
                         row.setdefault(where, []).append(key)
                     else:
@@ -247,10 +249,20 @@ class Maker:
             note = " (поле скрыто)" if entry.is_hidden else ""
             options = {c["option"]["key"] or c["option"]["label"]: c for c in entry.controls if c["option"]}
             if not options:
-                rows.append([name + note, "", "", "", ""])
+                items = [f"«{text}»" for c in entry.controls for text in self.words.items(c["items"])]
+                rows.append([name + note, escaped(", ".join(items)), "", "", ""])
             for position, control in enumerate(options.values()):
-                rows.append([name + note if position == 0 else "", *self.fact_rows(entry, control)])
-        return table(["Параметр", "Значения", "Единица", "Заводское значение", "Ключ"], rows)
+                rows.append([name + note if position == 0 else self.second_link(window, entry, control),
+                             *self.fact_rows(entry, control)])
+        place = f"<p>Раздел файла настроек: <code>[{window.section}]</code></p>\n" if window.section else ""
+        return place + table(["Параметр", "Значения", "Единица", "Заводское значение", "Ключ"], rows)
+
+    def second_link(self, window, entry, control):
+        """To the topic of what stands beside a field, where it has one of its own."""
+        topic = control["topic"]
+        if not topic or topic in (entry.topic, window.topic):
+            return ""
+        return f'<a href="{topic}">{escaped(self.topics[topic].title)}</a>'
 
     def link_to(self, name, label, on):
         """From the page `on`; nothing where that page itself is all there is."""
@@ -387,14 +399,29 @@ def compile_help(folder):
     made = folder / "TORVEX.chm"
     if done.returncode != 0 or "exception" in done.stdout or not made.exists() or not made.stat().st_size:
         raise sources.SourceError(f"chmcmd made no help file:\n{done.stdout}{done.stderr}")
-    # The hour of the build is told twice; without it the same texts make the same file.
     data = bytearray(made.read_bytes())
+    forget_the_hour(data)
+    begin_at_the_first_chunk(data)
+    made.write_bytes(data)
+
+
+def forget_the_hour(data):
+    """The hour of the build is told twice; without it the same texts make the same file."""
     data[16:20] = bytes(4)
     system = bytes([3, 0, 0, 0, 10, 0, 4, 0])
     if data.count(system) == 1:
         at = data.index(system) + len(system)
         data[at:at + 4] = bytes(4)
-    made.write_bytes(data)
+
+
+def begin_at_the_first_chunk(data):
+    """The compiler names the last chunk of the directory as its first one: who lists the files then misses most."""
+    header = data.index(b"ITSP")
+    length, _, chunk_length = struct.unpack_from("<III", data, header + 8)
+    first_chunk = data[header + length:header + length + chunk_length]
+    if first_chunk[:4] != b"PMGL" or struct.unpack_from("<i", first_chunk, 12) != (-1,):
+        raise sources.SourceError("the help file's directory does not begin with its first chunk")
+    struct.pack_into("<I", data, header + 32, 0)
 
 
 def main():
