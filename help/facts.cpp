@@ -127,6 +127,7 @@ int main()
     std::string windows;
     for (const WindowDescription& window : DescribeWindows())
         windows += (windows.empty() ? "\n" : ",\n") + WindowText(window);
-    std::printf("[%s\n]\n", windows.c_str());
+    std::printf("{\"inch_to_millimetre\": %s, \"windows\": [%s\n]}\n", Number(kInchToMillimetre).c_str(),
+                windows.c_str());
     return 0;
 }

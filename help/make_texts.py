@@ -13,7 +13,7 @@ def quoted(text):
     return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
 
 
-def main():
+def write_table(header):
     # Numbers are inserted into pages only: the library's tips have them from its own tables.
     found = sources.topics(sources.strings() | {"inch_to_millimetre": "…"})
     rows = []
@@ -22,9 +22,16 @@ def main():
         rows += [(topic.name, label, part) for part in topic.parts for label in part.labels]
     lines = ["// Made by help/make_texts.py from help/topics; do not edit.", "constexpr TopicText kTopicTexts[] = {"]
     for name, label, part in rows:
-        drawing = quoted(part.drawing) if part.drawing else "nullptr"
+        drawing = quoted("HELP_" + part.drawing) if part.drawing else "nullptr"
         lines.append(f"    {{{quoted(name)}, {quoted(label)}, {quoted(part.first_sentence)}, {drawing}}},")
-    pathlib.Path(sys.argv[1]).write_text("\n".join(lines) + "\n};\n", "utf-8")
+    pathlib.Path(header).write_text("\n".join(lines) + "\n};\n", "utf-8")
+
+
+def main():
+    try:
+        write_table(sys.argv[1])
+    except sources.SourceError as error:
+        sys.exit(f"help: {error}")
 
 
 if __name__ == "__main__":

@@ -140,6 +140,10 @@ def read_topic(path, inserts):
             keywords += [word.strip() for word in line.removeprefix(KEYWORDS).split(";") if word.strip()]
         else:
             (parts[-1] if parts else head).lines.append(line)
+    # A first sentence stands by itself in a tip, where no other topic's title can be put in.
+    for part in [head, *parts] if path.stem + ".htm" != INTRODUCTION else []:
+        if part.paragraphs and re.search(r"^[^.!?]*\[\]\(", part.paragraphs[0]):
+            raise SourceError(f"{path}: the first sentence has a link without words of its own")
     return Topic(path.stem + ".htm", title, keywords, head, parts)
 
 
