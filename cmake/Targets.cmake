@@ -16,6 +16,8 @@ else()
 endif()
 if(PELMAR_TRAP_UNDEFINED)
     target_compile_options(project_options INTERFACE -fsanitize=undefined -fsanitize-undefined-trap-on-error)
+    # Not _GLIBCXX_DEBUG: with it the tables are no constants for a compiler that looks for null pointers too.
+    add_compile_definitions(_GLIBCXX_ASSERTIONS)
 endif()
 
 if(WIN32)
