@@ -225,9 +225,22 @@ public:
     /// ignored meanwhile.
     BOOL UpdateData(BOOL saveAndValidate = TRUE);
 
+    /// Sees the messages of the window and of its children before they are dispatched, in modal loops as in the
+    /// application's. TRUE says that nothing more is to be done with this one.
     virtual BOOL PreTranslateMessage(MSG* message);
+    /// Offers a message to its window and to each of the parents and owners of that, up to `stop`.
+    static BOOL WalkPreTranslateTree(HWND stop, MSG* message);
+
+    /// Takes and dispatches messages until EndModalLoop, or until the window is gone; the result given there, else -1.
+    /// MLF_SHOWONIDLE shows the window once nothing is waiting, MLF_NOIDLEMSG does not tell its parent of that.
+    int RunModalLoop(DWORD flags = 0);
+    virtual BOOL ContinueModal(); ///< whether the loop goes on; asked after each message
+    virtual void EndModalLoop(int result);
 
 protected:
+    bool m_continuesModal = false;
+    int m_nModalResult = -1;
+
     virtual void DoDataExchange(CDataExchange* exchange);
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
@@ -274,6 +287,10 @@ private:
 
     WNDPROC m_super = nullptr; ///< the window procedure that was there before this object's
 };
+
+// How RunModalLoop goes about it.
+constexpr DWORD MLF_NOIDLEMSG = 0x0001;
+constexpr DWORD MLF_SHOWONIDLE = 0x0004;
 
 /// A window class of the application with the given parts; its name stays valid until the next call.
 AFX_CLASS LPCTSTR AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
@@ -342,6 +359,7 @@ public:
 
     /// Loads the data into the controls. TRUE leaves the first focus to the system.
     virtual BOOL OnInitDialog();
+    /// Moves the focus by keys, presses the default button, and the like.
     BOOL PreTranslateMessage(MSG* message) override;
     BOOL OnCmdMsg(UINT id, int code, void* extra, void* handlerInfo) override;
 
@@ -353,6 +371,9 @@ protected:
 
     UINT m_templateId = 0;
     CWnd* m_parent = nullptr;
+
+private:
+    INT_PTR RunModal(const DLGTEMPLATE& dialogTemplate, HWND owner);
 };
 
 /// A main window. It deletes itself when its window is destroyed.
@@ -417,6 +438,9 @@ public:
     CWnd* m_pMainWnd = nullptr;
     BOOL m_bHelpMode = FALSE; ///< context-help mode: the next Help asks for the control under the pointer
 
+    /// Sees each message first. It offers it to the windows, from the one that it is for upward, and to the main
+    /// window. TRUE says that nothing more is to be done with it.
+    virtual BOOL PreTranslateMessage(MSG* message);
     virtual BOOL InitInstance(); ///< FALSE ends the program at once
     virtual int Run();           ///< the message loop
     virtual int ExitInstance();

@@ -337,6 +337,65 @@ BOOL CWnd::PreTranslateMessage(MSG*)
     return FALSE;
 }
 
+BOOL CWnd::WalkPreTranslateTree(HWND stop, MSG* message)
+{
+    for (HWND window = message->hwnd; window; window = ::GetParent(window)) {
+        CWnd* const object = FromHandlePermanent(window);
+        if (object && object->PreTranslateMessage(message))
+            return TRUE;
+        if (window == stop)
+            break;
+    }
+    return FALSE;
+}
+
+namespace {
+bool IsQueueEmpty()
+{
+    MSG next;
+    return !PeekMessage(&next, nullptr, 0, 0, PM_NOREMOVE);
+}
+} // namespace
+
+int CWnd::RunModalLoop(DWORD flags)
+{
+    m_continuesModal = true;
+    m_nModalResult = -1;
+    const HWND parent = ::GetParent(m_hWnd);
+    bool showsOnIdle = (flags & MLF_SHOWONIDLE) && !IsWindowVisible();
+    while (ContinueModal()) {
+        if (IsQueueEmpty()) {
+            if (showsOnIdle) {
+                showsOnIdle = false;
+                ShowWindow(SW_SHOWNORMAL);
+                UpdateWindow();
+                continue;
+            }
+            if (parent && !(flags & MLF_NOIDLEMSG))
+                ::SendMessage(parent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));
+        }
+        int exitCode = 0;
+        if (!AfxPumpMessage(exitCode)) {
+            PostQuitMessage(exitCode); // the loop around this one ends too
+            break;
+        }
+    }
+    m_continuesModal = false;
+    return m_nModalResult;
+}
+
+BOOL CWnd::ContinueModal()
+{
+    return m_continuesModal && m_hWnd;
+}
+
+void CWnd::EndModalLoop(int result)
+{
+    m_nModalResult = result;
+    m_continuesModal = false;
+    PostMessage(WM_NULL); // the loop may be waiting, as where another thread's message ends it
+}
+
 const MSG* CWnd::GetCurrentMessage()
 {
     return &AfxGetState().currentMessage;
