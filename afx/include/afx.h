@@ -7,6 +7,10 @@
 
 class CObject;
 
+/// A place in a list that is gone through; null at the end.
+struct __POSITION {};
+using POSITION = __POSITION*;
+
 /// What is known of a class at run time: its name, its base and, where it was declared so, how to create one.
 struct AFX_CLASS CRuntimeClass {
     const char* m_lpszClassName;

@@ -31,6 +31,7 @@ public:
     /// Sends PSM_QUERYSIBLINGS to the other pages of the sheet that exist, until one answers non-zero.
     LRESULT QuerySiblings(WPARAM wParam, LPARAM lParam);
 
+    BOOL PreTranslateMessage(MSG* message) override;
     virtual BOOL OnSetActive();
     virtual BOOL OnKillActive();
     virtual BOOL OnApply();
@@ -71,13 +72,15 @@ public:
     /// or one of them lacks its template.
     virtual INT_PTR DoModal();
     virtual BOOL OnInitDialog();
+    BOOL PreTranslateMessage(MSG* message) override;
+    BOOL ContinueModal() override;
 
 protected:
     LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
-    INT_PTR Show();
+    INT_PTR Show(HWND owner);
 
     CString m_caption;
     CWnd* m_parent;

@@ -14,32 +14,46 @@ class CWnd;
 
 struct CSize : SIZE {
     CSize(int width = 0, int height = 0) : SIZE{width, height} {}
+    CSize(SIZE size) : SIZE(size) {}
+    BOOL operator==(SIZE other) const { return cx == other.cx && cy == other.cy; }
 };
 
 struct CPoint : POINT {
     CPoint(int px = 0, int py = 0) : POINT{px, py} {}
     CPoint(POINT point) : POINT(point) {}
+    BOOL operator==(POINT other) const { return x == other.x && y == other.y; }
 };
 
 struct CRect : RECT {
     CRect(int l = 0, int t = 0, int r = 0, int b = 0) : RECT{l, t, r, b} {}
     CRect(const RECT& rect) : RECT(rect) {}
+    CRect(POINT topLeft, SIZE size) : RECT{topLeft.x, topLeft.y, topLeft.x + size.cx, topLeft.y + size.cy} {}
     int Width() const { return right - left; }
     int Height() const { return bottom - top; }
+    CSize Size() const { return {Width(), Height()}; }
+    CPoint TopLeft() const { return {left, top}; }
+    CPoint BottomRight() const { return {right, bottom}; }
     CPoint CenterPoint() const { return {(left + right) / 2, (top + bottom) / 2}; }
+    BOOL IsRectEmpty() const { return ::IsRectEmpty(this); }
     BOOL PtInRect(POINT point) const { return ::PtInRect(this, point); }
+    void InflateRect(int x, int y) { ::InflateRect(this, x, y); }
+    void DeflateRect(int x, int y) { ::InflateRect(this, -x, -y); }
+    void OffsetRect(int x, int y) { ::OffsetRect(this, x, y); }
+    BOOL operator==(const RECT& other) const { return ::EqualRect(this, &other); }
     operator RECT*() { return this; }
+    operator const RECT*() const { return this; }
 };
 
 // ---- message maps ------------------------------------------------------------------------------------------
 
 using AFX_HANDLER = LRESULT (*)(CCmdTarget& target, WPARAM wParam, LPARAM lParam);
 
-/// One row of a message map: a message, or a command or control notification by its code and id.
+/// One row of a message map: a message, or a command or control notification by its code and a range of ids.
 struct AFX_MSGMAP_ENTRY {
     UINT nMessage;
     UINT nCode;
     UINT nID;
+    UINT nLastID;
     AFX_HANDLER pfn; ///< null ends the map
 };
 
@@ -49,6 +63,12 @@ struct AFX_MSGMAP {
 };
 
 constexpr UINT CN_COMMAND = 0; ///< code of menu commands, accelerators and button clicks
+
+/// What goes with a notification of a common control.
+struct AFX_NOTIFY {
+    LRESULT* pResult; ///< what the control is answered
+    NMHDR* pNMHDR;
+};
 
 #define DECLARE_MESSAGE_MAP()                                                                                          \
 protected:                                                                                                             \
@@ -74,84 +94,22 @@ protected:                                                                      
 // It closes what the other macro has opened, which clang-format does not see.
 // clang-format off
 #define END_MESSAGE_MAP()                                                                                              \
-            {0, 0, 0, nullptr}                                                                                         \
+            {0, 0, 0, 0, nullptr}                                                                                        \
         };                                                                                                             \
         static const AFX_MSGMAP map{&TheBaseClass::GetThisMessageMap, entries};                                        \
         return &map;                                                                                                   \
     }
 // clang-format on
 
-template <class Function> struct AfxMember;
-template <class Class, class Result, class... Arguments> struct AfxMember<Result (Class::*)(Arguments...)> {
-    using Type = Class;
-};
-
-/// A handler of commands and control notifications.
-using AFX_PMSG = void (CCmdTarget::*)();
-
-/// Turns a handler of a known signature into the one shape that message maps hold. The type stands beside the handler
-/// because some compilers take equally named classes that are local to different files for one by the handler alone.
-template <class Function, Function handler> struct AfxThunk {
-    using Class = typename AfxMember<Function>::Type;
-
-    static LRESULT Command(CCmdTarget& target, WPARAM, LPARAM)
-    {
-        (static_cast<Class&>(target).*handler)();
-        return 0;
-    }
-    static LRESULT Message(CCmdTarget& target, WPARAM wParam, LPARAM lParam)
-    {
-        return (static_cast<Class&>(target).*handler)(wParam, lParam);
-    }
-    static LRESULT Key(CCmdTarget& target, WPARAM wParam, LPARAM lParam)
-    {
-        (static_cast<Class&>(target).*handler)(static_cast<UINT>(wParam), LOWORD(lParam), HIWORD(lParam));
-        return 0;
-    }
-    static LRESULT NcCreate(CCmdTarget& target, WPARAM, LPARAM lParam)
-    {
-        return (static_cast<Class&>(target).*handler)(reinterpret_cast<CREATESTRUCTW*>(lParam));
-    }
-    static LRESULT HelpInfo(CCmdTarget& target, WPARAM, LPARAM lParam)
-    {
-        return (static_cast<Class&>(target).*handler)(reinterpret_cast<HELPINFO*>(lParam));
-    }
-    static LRESULT Size(CCmdTarget& target, WPARAM wParam, LPARAM lParam)
-    {
-        (static_cast<Class&>(target).*handler)(static_cast<UINT>(wParam), LOWORD(lParam), HIWORD(lParam));
-        return 0;
-    }
-};
-
-template <class Required, class Thunk> using AfxThunkOf = Thunk;
-
-/// The cast refuses a handler of any other result or arguments than the entry's, those that would convert included.
-#define AFX_THUNK(type, memberFxn)                                                                                     \
-    AfxThunkOf<decltype(static_cast<type>(memberFxn)), AfxThunk<decltype(memberFxn), memberFxn>>
-
-#define ON_CONTROL(code, id, memberFxn) {WM_COMMAND, code, id, &AFX_THUNK(AFX_PMSG, memberFxn)::Command},
-#define ON_COMMAND(id, memberFxn) ON_CONTROL(CN_COMMAND, id, memberFxn)
-#define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
-#define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
-#define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
-#define ON_EN_KILLFOCUS(id, memberFxn) ON_CONTROL(EN_KILLFOCUS, id, memberFxn)
-#define ON_LBN_DBLCLK(id, memberFxn) ON_CONTROL(LBN_DBLCLK, id, memberFxn)
-
-#define AFX_ON_MESSAGE(message, type, memberFxn, crack) {message, 0, 0, &AFX_THUNK(type, memberFxn)::crack},
-#define ON_MESSAGE(message, memberFxn) AFX_ON_MESSAGE(message, LRESULT (CWnd::*)(WPARAM, LPARAM), memberFxn, Message)
-#define ON_WM_CHAR() AFX_ON_MESSAGE(WM_CHAR, void (CWnd::*)(UINT, UINT, UINT), &ThisClass::OnChar, Key)
-#define ON_WM_CLOSE() AFX_ON_MESSAGE(WM_CLOSE, void (CWnd::*)(), &ThisClass::OnClose, Command)
-#define ON_WM_DESTROY() AFX_ON_MESSAGE(WM_DESTROY, void (CWnd::*)(), &ThisClass::OnDestroy, Command)
-#define ON_WM_SIZE() AFX_ON_MESSAGE(WM_SIZE, void (CWnd::*)(UINT, int, int), &ThisClass::OnSize, Size)
-#define ON_WM_NCCREATE() AFX_ON_MESSAGE(WM_NCCREATE, BOOL (CWnd::*)(LPCREATESTRUCT), &ThisClass::OnNcCreate, NcCreate)
-#define ON_WM_HELPINFO() AFX_ON_MESSAGE(WM_HELP, BOOL (CWnd::*)(HELPINFO*), &ThisClass::OnHelpInfo, HelpInfo)
+#include <afxmsg_.h>
 
 /// Base of whatever receives commands.
 class AFX_CLASS CCmdTarget : public CObject {
     DECLARE_DYNAMIC(CCmdTarget)
 public:
     /// Runs the handler of a command or control notification: the maps from the most derived class upward, each
-    /// in declared order, the first match. FALSE where none matches.
+    /// in declared order, the first match. FALSE where none matches, or where the handler lets it go on. A
+    /// common control's notification has WM_NOTIFY in the high word of `code`, and an AFX_NOTIFY in `extra`.
     virtual BOOL OnCmdMsg(UINT id, int code, void* extra, void* handlerInfo);
 
 protected:
@@ -173,6 +131,7 @@ public:
 
     HWND m_hWnd = nullptr;
     operator HWND() const { return m_hWnd; }
+    HWND GetSafeHwnd() const; ///< null for a null pointer too
 
     /// The object that stands for a window: its own where it has one, else a temporary one that lives until the
     /// outermost message being processed is done; made outside of any message, until the application's message loop
@@ -199,12 +158,26 @@ public:
     int GetDlgCtrlID() const;
     CWnd* GetParent() const;
     CWnd* GetWindow(UINT relation) const;
+    CWnd* GetTopLevelParent() const; ///< the outermost of the parents and owners, the window itself without any
+    static CWnd* GetFocus();
+    static CWnd* GetDesktopWindow();
+    BOOL IsChild(const CWnd* window) const;
     void CheckDlgButton(int id, UINT check) const;
     UINT IsDlgButtonChecked(int id) const;
+    /// Turns one radio button of a range of ids on and the others off.
+    void CheckRadioButton(int firstId, int lastId, int checkedId);
+    int GetCheckedRadioButton(int firstId, int lastId) const; ///< 0 where none is on
     void SetDlgItemText(int id, LPCTSTR text) const;
+    /// The length of the text: 0 and the empty text where there is no such control.
+    int GetDlgItemText(int id, CString& text) const;
+    int GetDlgItemText(int id, LPTSTR text, int capacity) const; ///< cut off where it does not fit
+    void SetDlgItemInt(int id, UINT value, BOOL isSigned = TRUE);
+    /// The whole number in a control; 0, and `translated` FALSE, where its text is none.
+    UINT GetDlgItemInt(int id, BOOL* translated = nullptr, BOOL isSigned = TRUE) const;
 
     void SetWindowText(LPCTSTR text);
     void GetWindowText(CString& text) const;
+    int GetWindowText(LPTSTR text, int capacity) const; ///< cut off where it does not fit; the length copied
     int GetWindowTextLength() const;
 
     BOOL EnableWindow(BOOL enable = TRUE);
@@ -214,12 +187,33 @@ public:
     CWnd* SetFocus();
     void UpdateWindow();
     void Invalidate(BOOL erase = TRUE);
-    BOOL ModifyStyleEx(DWORD remove, DWORD add);
+    void InvalidateRect(const RECT* rect, BOOL erase = TRUE);
+    void SetRedraw(BOOL redraw = TRUE); ///< FALSE holds the painting of a control back
+    DWORD GetStyle() const;
+    DWORD GetExStyle() const;
+    /// FALSE where the style is as wanted already. With `flags` for SetWindowPos the frame is drawn anew.
+    BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0);
+    BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT flags = 0);
+    BOOL IsIconic() const;
+    UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds, TIMERPROC procedure);
+    BOOL KillTimer(UINT_PTR id);
     void GetClientRect(RECT* rect) const;
     void GetWindowRect(RECT* rect) const;
     void MoveWindow(int x, int y, int width, int height, BOOL repaint = TRUE);
+    void MoveWindow(const RECT* rect, BOOL repaint = TRUE);
+    /// `after`: a window, or one of the four below.
+    BOOL SetWindowPos(const CWnd* after, int x, int y, int width, int height, UINT flags);
+    static const CWnd wndTop;
+    static const CWnd wndBottom;
+    static const CWnd wndTopMost;
+    static const CWnd wndNoTopMost;
+    /// Centres a child on its parent, a pop-up on its owner (on the screen where it has none, or one that is hidden
+    /// or minimised), either on `other` where that is given. A pop-up stays within the working area of the screen.
+    void CenterWindow(CWnd* other = nullptr);
     void ScreenToClient(POINT* point) const;
+    void ScreenToClient(RECT* rect) const;
     void ClientToScreen(POINT* point) const;
+    void ClientToScreen(RECT* rect) const;
     int MessageBox(LPCTSTR text, LPCTSTR caption = nullptr, UINT type = MB_OK);
 
     /// The id of the shown child at a point of the client area, -1 where there is none. A group box counts where no
@@ -231,9 +225,22 @@ public:
     /// ignored meanwhile.
     BOOL UpdateData(BOOL saveAndValidate = TRUE);
 
+    /// Sees the messages of the window and of its children before they are dispatched, in modal loops as in the
+    /// application's. TRUE says that nothing more is to be done with this one.
     virtual BOOL PreTranslateMessage(MSG* message);
+    /// Offers a message to its window and to each of the parents and owners of that, up to `stop`.
+    static BOOL WalkPreTranslateTree(HWND stop, MSG* message);
+
+    /// Takes and dispatches messages until EndModalLoop, or until the window is gone; the result given there, else -1.
+    /// MLF_SHOWONIDLE shows the window once nothing is waiting, MLF_NOIDLEMSG does not tell its parent of that.
+    int RunModalLoop(DWORD flags = 0);
+    virtual BOOL ContinueModal(); ///< whether the loop goes on; asked after each message
+    virtual void EndModalLoop(int result);
 
 protected:
+    bool m_continuesModal = false;
+    int m_nModalResult = -1;
+
     virtual void DoDataExchange(CDataExchange* exchange);
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
@@ -244,18 +251,46 @@ protected:
     /// The message being processed, with its time and the pointer's position. Only for use in a handler.
     static const MSG* GetCurrentMessage();
     LRESULT Default(); ///< default processing of the current message
+
+    // The handlers of the ON_WM_ entries, with the default processing.
+    void OnActivate(UINT state, CWnd* other, BOOL minimized);
     void OnChar(UINT character, UINT repeatCount, UINT flags);
-    BOOL OnNcCreate(CREATESTRUCTW* create);
-    BOOL OnHelpInfo(HELPINFO* info);
     void OnClose();
+    void OnContextMenu(CWnd* window, CPoint position); ///< in screen coordinates, (-1, -1) where asked for by key
+    int OnCreate(CREATESTRUCTW* create);               ///< -1 refuses the window
     void OnDestroy();
+    void OnEnable(BOOL enabled);
+    void OnGetMinMaxInfo(MINMAXINFO* limits);
+    BOOL OnHelpInfo(HELPINFO* info);
+    void OnKeyDown(UINT key, UINT repeatCount, UINT flags);
+    void OnKillFocus(CWnd* next);
+    void OnLButtonDblClk(UINT flags, CPoint point);
+    void OnLButtonDown(UINT flags, CPoint point);
+    void OnLButtonUp(UINT flags, CPoint point);
+    void OnMouseMove(UINT flags, CPoint point);
+    void OnMove(int x, int y);
+    BOOL OnNcCreate(CREATESTRUCTW* create);
+    void OnNcDestroy();
+    void OnPaint();
+    void OnRButtonDown(UINT flags, CPoint point);
+    void OnRButtonUp(UINT flags, CPoint point);
+    BOOL OnSetCursor(CWnd* window, UINT hitTest, UINT message);
+    void OnSetFocus(CWnd* previous);
+    void OnShowWindow(BOOL shown, UINT status);
     void OnSize(UINT type, int width, int height);
+    void OnSysCommand(UINT id, LPARAM lParam);
+    void OnTimer(UINT_PTR id);
 
 private:
+    explicit CWnd(HWND place); ///< of no window, but a place among windows
     static LRESULT CALLBACK WndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     WNDPROC m_super = nullptr; ///< the window procedure that was there before this object's
 };
+
+// How RunModalLoop goes about it.
+constexpr DWORD MLF_NOIDLEMSG = 0x0001;
+constexpr DWORD MLF_SHOWONIDLE = 0x0004;
 
 /// A window class of the application with the given parts; its name stays valid until the next call.
 AFX_CLASS LPCTSTR AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
@@ -324,6 +359,7 @@ public:
 
     /// Loads the data into the controls. TRUE leaves the first focus to the system.
     virtual BOOL OnInitDialog();
+    /// Moves the focus by keys, presses the default button, and the like.
     BOOL PreTranslateMessage(MSG* message) override;
     BOOL OnCmdMsg(UINT id, int code, void* extra, void* handlerInfo) override;
 
@@ -335,6 +371,9 @@ protected:
 
     UINT m_templateId = 0;
     CWnd* m_parent = nullptr;
+
+private:
+    INT_PTR RunModal(const DLGTEMPLATE& dialogTemplate, HWND owner);
 };
 
 /// A main window. It deletes itself when its window is destroyed.
@@ -399,6 +438,9 @@ public:
     CWnd* m_pMainWnd = nullptr;
     BOOL m_bHelpMode = FALSE; ///< context-help mode: the next Help asks for the control under the pointer
 
+    /// Sees each message first. It offers it to the windows, from the one that it is for upward, and to the main
+    /// window. TRUE says that nothing more is to be done with it.
+    virtual BOOL PreTranslateMessage(MSG* message);
     virtual BOOL InitInstance(); ///< FALSE ends the program at once
     virtual int Run();           ///< the message loop
     virtual int ExitInstance();

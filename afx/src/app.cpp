@@ -27,31 +27,45 @@ int CWinApp::ExitInstance()
 }
 
 namespace {
-/// Offers the message to the windows from the one it is for upward, and to the main window last.
-bool PreTranslate(MSG& message)
+BOOL PreTranslate(MSG& message)
 {
     CWnd* const main = AfxGetMainWnd();
-    for (HWND window = message.hwnd; window; window = GetParent(window)) {
-        CWnd* const object = CWnd::FromHandlePermanent(window);
-        if (object && object != main && object->PreTranslateMessage(&message))
-            return true;
-    }
-    return main && main->m_hWnd && main->PreTranslateMessage(&message);
+    const HWND mainWindow = main ? main->m_hWnd : nullptr;
+    if (CWnd::WalkPreTranslateTree(mainWindow, &message))
+        return TRUE;
+    // The main window has accelerators for the windows beside it too.
+    const bool isBeside = mainWindow && GetAncestor(message.hwnd, GA_ROOTOWNER) != mainWindow;
+    return isBeside && main->PreTranslateMessage(&message);
 }
 } // namespace
 
-int CWinApp::Run()
+BOOL CWinApp::PreTranslateMessage(MSG* message)
+{
+    return PreTranslate(*message);
+}
+
+bool AfxPumpMessage(int& exitCode)
 {
     MSG message{};
-    while (GetMessage(&message, nullptr, 0, 0) > 0) {
-        if (!PreTranslate(message)) {
-            TranslateMessage(&message);
-            DispatchMessage(&message);
-        }
+    if (GetMessage(&message, nullptr, 0, 0) <= 0) {
+        exitCode = static_cast<int>(message.wParam);
+        return false;
+    }
+    CWinApp* const application = AfxGetApp();
+    if (!(application ? application->PreTranslateMessage(&message) : PreTranslate(message))) {
+        TranslateMessage(&message);
+        DispatchMessage(&message);
+    }
+    return true;
+}
+
+int CWinApp::Run()
+{
+    int exitCode = 0;
+    while (AfxPumpMessage(exitCode))
         if (AfxGetState().messageDepth == 0)
             AfxDropTemporaries();
-    }
-    return static_cast<int>(message.wParam);
+    return exitCode;
 }
 
 int CWinApp::DoMessageBox(LPCTSTR prompt, UINT type, UINT)

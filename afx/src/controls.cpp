@@ -1,29 +1,11 @@
 // The controls: each call is one message.
-#include <afxcmn.h>
+#include "ask.h"
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CButton, CWnd)
 IMPLEMENT_DYNAMIC(CEdit, CWnd)
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
-IMPLEMENT_DYNAMIC(CTabCtrl, CWnd)
-
-namespace {
-int Ask(const CWnd& control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
-{
-    return static_cast<int>(control.SendMessage(message, wParam, lParam));
-}
-
-WPARAM Index(int index)
-{
-    return static_cast<WPARAM>(static_cast<INT_PTR>(index));
-}
-
-LPARAM Text(LPCTSTR text)
-{
-    return reinterpret_cast<LPARAM>(text);
-}
-} // namespace
 
 int CButton::GetCheck() const
 {
@@ -138,24 +120,4 @@ DWORD_PTR CListBox::GetItemData(int index) const
 int CListBox::SetItemData(int index, DWORD_PTR data)
 {
     return Ask(*this, LB_SETITEMDATA, Index(index), static_cast<LPARAM>(data));
-}
-
-int CTabCtrl::GetItemCount() const
-{
-    return Ask(*this, TCM_GETITEMCOUNT);
-}
-
-int CTabCtrl::GetCurSel() const
-{
-    return Ask(*this, TCM_GETCURSEL);
-}
-
-BOOL CTabCtrl::GetItem(int index, TCITEMW* item) const
-{
-    return Ask(*this, TCM_GETITEMW, Index(index), reinterpret_cast<LPARAM>(item));
-}
-
-BOOL CTabCtrl::SetItem(int index, const TCITEMW* item)
-{
-    return Ask(*this, TCM_SETITEMW, Index(index), reinterpret_cast<LPARAM>(item));
 }

@@ -37,11 +37,32 @@ INT_PTR CDialog::DoModal()
     const DLGTEMPLATE* const dialogTemplate = m_hWnd ? nullptr : FindTemplate(m_templateId);
     if (!dialogTemplate)
         return -1;
-    AfxAwaitWindow(this);
-    const INT_PTR result =
-        DialogBoxIndirectParam(AfxGetInstanceHandle(), dialogTemplate, AfxModalOwner(m_parent), DialogProc, 0);
-    AfxStopAwaiting();
+    const HWND owner = AfxModalOwner(m_parent);
+    INT_PTR result = -1;
+    {
+        const AfxDisabledOwner disabled(owner);
+        result = RunModal(*dialogTemplate, owner);
+        // Gone from sight before the owner takes input again, so that the activation goes to the owner.
+        if (m_hWnd)
+            SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    if (m_hWnd && owner && GetActiveWindow() == m_hWnd)
+        ::SetActiveWindow(owner);
+    DestroyWindow();
     return result;
+}
+
+/// The result of the dialog, which stays for the caller to destroy.
+INT_PTR CDialog::RunModal(const DLGTEMPLATE& dialogTemplate, HWND owner)
+{
+    m_nModalResult = -1;
+    m_continuesModal = true; // EndDialog may come before the loop
+    AfxAwaitWindow(this);
+    CreateDialogIndirectParam(AfxGetInstanceHandle(), &dialogTemplate, owner, DialogProc, 0);
+    AfxStopAwaiting();
+    if (!m_hWnd || !m_continuesModal)
+        return m_nModalResult;
+    return RunModalLoop(MLF_SHOWONIDLE | (GetStyle() & DS_NOIDLEMSG ? MLF_NOIDLEMSG : 0));
 }
 
 BOOL CDialog::Create(UINT templateId, CWnd* parent)
@@ -59,6 +80,8 @@ BOOL CDialog::Create(UINT templateId, CWnd* parent)
 
 void CDialog::EndDialog(int result)
 {
+    if (m_continuesModal)
+        EndModalLoop(result);
     ::EndDialog(m_hWnd, result);
 }
 
@@ -85,9 +108,15 @@ void CDialog::OnCancel()
     EndDialog(IDCANCEL);
 }
 
+bool AfxIsInput(const MSG& message)
+{
+    const UINT kind = message.message;
+    return (kind >= WM_KEYFIRST && kind <= WM_KEYLAST) || (kind >= WM_MOUSEFIRST && kind <= WM_MOUSELAST);
+}
+
 BOOL CDialog::PreTranslateMessage(MSG* message)
 {
-    return m_hWnd && IsDialogMessage(m_hWnd, message);
+    return m_hWnd && AfxIsInput(*message) && IsDialogMessage(m_hWnd, message);
 }
 
 BOOL CDialog::OnCmdMsg(UINT id, int code, void* extra, void* handlerInfo)

@@ -74,6 +74,12 @@ LRESULT CPropertyPage::QuerySiblings(WPARAM wParam, LPARAM lParam)
     return 0;
 }
 
+/// The sheet moves the focus, over the page's own controls and its own. A page that stands alone is a dialog like any.
+BOOL CPropertyPage::PreTranslateMessage(MSG* message)
+{
+    return m_sheet ? FALSE : CDialog::PreTranslateMessage(message);
+}
+
 BOOL CPropertyPage::OnSetActive()
 {
     if (m_activatedBefore)
@@ -181,34 +187,62 @@ INT_PTR CPropertySheet::DoModal()
 {
     if (m_hWnd || m_pages.empty())
         return -1;
-    const INT_PTR result = Show();
+    INT_PTR result = -1;
+    const HWND owner = AfxModalOwner(m_parent);
+    {
+        const AfxDisabledOwner disabled(owner);
+        result = Show(owner);
+        // Gone from sight before the owner takes input again, so that the activation goes to the owner.
+        if (m_hWnd)
+            SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    if (m_hWnd && owner && GetActiveWindow() == m_hWnd)
+        ::SetActiveWindow(owner);
+    DestroyWindow();
     for (CPropertyPage* page : m_pages)
         if (page->m_sheet == this)
             page->m_sheet = nullptr;
     return result;
 }
 
-INT_PTR CPropertySheet::Show()
+INT_PTR CPropertySheet::Show(HWND owner)
 {
     std::vector<PROPSHEETPAGEW> pages;
     for (CPropertyPage* page : m_pages)
         if (!page->Prepare(*this, pages.emplace_back()))
             return -1;
 
+    // The sheet's own loop would not let the windows see their messages first.
     PROPSHEETHEADERW header = m_psh;
+    header.dwFlags |= PSH_MODELESS;
     header.hInstance = AfxGetInstanceHandle();
     header.pszCaption = m_caption;
     header.nPages = static_cast<UINT>(pages.size());
     header.ppsp = pages.data();
-    header.hwndParent = AfxModalOwner(m_parent);
+    header.hwndParent = owner;
 
     // The sheet's dialog is the first window that the call creates.
+    m_nModalResult = -1;
+    m_continuesModal = true;
     AfxAwaitWindow(this);
-    const INT_PTR result = PropertySheetW(&header);
+    const INT_PTR created = PropertySheetW(&header);
     AfxStopAwaiting();
-    if (result < 0)
+    if (created == -1 || !m_hWnd)
         return -1;
-    return result > 0 ? IDOK : IDCANCEL;
+    if (const int told = RunModalLoop(MLF_SHOWONIDLE); told != -1)
+        return told;
+    return m_hWnd && SendMessage(PSM_GETRESULT) > 0 ? IDOK : IDCANCEL;
+}
+
+/// A sheet that has been closed by one of its buttons has no page any more.
+BOOL CPropertySheet::ContinueModal()
+{
+    return CWnd::ContinueModal() && SendMessage(PSM_GETCURRENTPAGEHWND);
+}
+
+BOOL CPropertySheet::PreTranslateMessage(MSG* message)
+{
+    return m_hWnd && AfxIsInput(*message) && SendMessage(PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(message));
 }
 
 LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM)

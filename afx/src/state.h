@@ -30,6 +30,33 @@ void AfxDropTemporaries();
 /// window, else the main window's last pop-up, else none.
 HWND AfxModalOwner(const CWnd* parent);
 
+/// Whether a message is of keys or the mouse.
+bool AfxIsInput(const MSG& message);
+
+/// Takes the next message and has it handled. False when it is time to end, with the code to end with.
+bool AfxPumpMessage(int& exitCode);
+
+/// Keeps the owner of a modal window from input, if it takes any.
+class AfxDisabledOwner {
+public:
+    explicit AfxDisabledOwner(HWND owner)
+        : m_owner(owner && owner != GetDesktopWindow() && IsWindowEnabled(owner) ? owner : nullptr)
+    {
+        if (m_owner)
+            EnableWindow(m_owner, FALSE);
+    }
+    ~AfxDisabledOwner()
+    {
+        if (m_owner)
+            EnableWindow(m_owner, TRUE);
+    }
+    AfxDisabledOwner(const AfxDisabledOwner&) = delete;
+    AfxDisabledOwner& operator=(const AfxDisabledOwner&) = delete;
+
+private:
+    HWND m_owner;
+};
+
 /// Restores a value when the scope ends.
 template <class T> class Restore {
 public:

@@ -1,6 +1,7 @@
 // Windows and their objects: handle maps, the window procedure, and the plain calls.
 #include <afxwin.h>
 
+#include <algorithm>
 #include <memory>
 #include <unordered_map>
 
@@ -8,6 +9,13 @@
 
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
+
+// A member function that may be called by a null pointer, as the framework's documentation has it.
+#ifdef __GNUC__
+#define AFX_OF_NULL_TOO __attribute__((no_sanitize("undefined")))
+#else
+#define AFX_OF_NULL_TOO
+#endif
 
 namespace {
 using HandleMap = std::unordered_map<HWND, CWnd*>;
@@ -89,7 +97,7 @@ MSG MakeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 
 const AFX_MSGMAP* CCmdTarget::GetThisMessageMap()
 {
-    static const AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, nullptr}};
+    static const AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, 0, nullptr}};
     static const AFX_MSGMAP map{nullptr, entries};
     return &map;
 }
@@ -103,18 +111,17 @@ const AFX_MSGMAP_ENTRY* CCmdTarget::FindEntry(UINT message, UINT code, UINT id) 
 {
     for (const AFX_MSGMAP* map = GetMessageMap(); map; map = map->pfnGetBaseMap ? map->pfnGetBaseMap() : nullptr)
         for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->pfn; ++entry)
-            if (entry->nMessage == message && entry->nCode == code && entry->nID == id)
+            if (entry->nMessage == message && entry->nCode == code && entry->nID <= id && id <= entry->nLastID)
                 return entry;
     return nullptr;
 }
 
-BOOL CCmdTarget::OnCmdMsg(UINT id, int code, void*, void*)
+BOOL CCmdTarget::OnCmdMsg(UINT id, int code, void* extra, void*)
 {
-    const AFX_MSGMAP_ENTRY* const entry = FindEntry(WM_COMMAND, static_cast<UINT>(code), id);
-    if (!entry)
-        return FALSE;
-    entry->pfn(*this, 0, 0);
-    return TRUE;
+    const auto whole = static_cast<UINT>(code);
+    const UINT message = HIWORD(whole) ? HIWORD(whole) : WM_COMMAND;
+    const AFX_MSGMAP_ENTRY* const entry = FindEntry(message, LOWORD(whole), id);
+    return entry && entry->pfn(*this, id, reinterpret_cast<LPARAM>(extra));
 }
 
 // ---- handle maps ----
@@ -312,9 +319,15 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     return OnCmdMsg(LOWORD(wParam), lParam ? HIWORD(wParam) : int{CN_COMMAND}, nullptr, nullptr);
 }
 
-BOOL CWnd::OnNotify(WPARAM, LPARAM, LRESULT*)
+BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* result)
 {
-    return AfxGetState().lockedOut == m_hWnd;
+    if (AfxGetState().lockedOut == m_hWnd)
+        return TRUE;
+    auto* const header = reinterpret_cast<NMHDR*>(lParam);
+    AFX_NOTIFY notify{result, header};
+    // Not by the header's own id: of a tool tip that is the tool's.
+    const UINT id = LOWORD(::GetDlgCtrlID(header->hwndFrom));
+    return OnCmdMsg(id, MAKELONG(header->code, WM_NOTIFY), &notify, nullptr);
 }
 
 void CWnd::PostNcDestroy() {}
@@ -322,6 +335,65 @@ void CWnd::PostNcDestroy() {}
 BOOL CWnd::PreTranslateMessage(MSG*)
 {
     return FALSE;
+}
+
+BOOL CWnd::WalkPreTranslateTree(HWND stop, MSG* message)
+{
+    for (HWND window = message->hwnd; window; window = ::GetParent(window)) {
+        CWnd* const object = FromHandlePermanent(window);
+        if (object && object->PreTranslateMessage(message))
+            return TRUE;
+        if (window == stop)
+            break;
+    }
+    return FALSE;
+}
+
+namespace {
+bool IsQueueEmpty()
+{
+    MSG next;
+    return !PeekMessage(&next, nullptr, 0, 0, PM_NOREMOVE);
+}
+} // namespace
+
+int CWnd::RunModalLoop(DWORD flags)
+{
+    m_continuesModal = true;
+    m_nModalResult = -1;
+    const HWND parent = ::GetParent(m_hWnd);
+    bool showsOnIdle = (flags & MLF_SHOWONIDLE) && !IsWindowVisible();
+    while (ContinueModal()) {
+        if (IsQueueEmpty()) {
+            if (showsOnIdle) {
+                showsOnIdle = false;
+                ShowWindow(SW_SHOWNORMAL);
+                UpdateWindow();
+                continue;
+            }
+            if (parent && !(flags & MLF_NOIDLEMSG))
+                ::SendMessage(parent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));
+        }
+        int exitCode = 0;
+        if (!AfxPumpMessage(exitCode)) {
+            PostQuitMessage(exitCode); // the loop around this one ends too
+            break;
+        }
+    }
+    m_continuesModal = false;
+    return m_nModalResult;
+}
+
+BOOL CWnd::ContinueModal()
+{
+    return m_continuesModal && m_hWnd;
+}
+
+void CWnd::EndModalLoop(int result)
+{
+    m_nModalResult = result;
+    m_continuesModal = false;
+    PostMessage(WM_NULL); // the loop may be waiting, as where another thread's message ends it
 }
 
 const MSG* CWnd::GetCurrentMessage()
@@ -335,22 +407,22 @@ LRESULT CWnd::Default()
     return DefWindowProc(message.message, message.wParam, message.lParam);
 }
 
+void CWnd::OnActivate(UINT, CWnd*, BOOL)
+{
+    Default();
+}
+
 void CWnd::OnChar(UINT, UINT, UINT)
 {
     Default();
 }
 
-BOOL CWnd::OnNcCreate(CREATESTRUCTW*)
-{
-    return Default() != 0;
-}
-
-BOOL CWnd::OnHelpInfo(HELPINFO*)
-{
-    return Default() != 0;
-}
-
 void CWnd::OnClose()
+{
+    Default();
+}
+
+void CWnd::OnContextMenu(CWnd*, CPoint)
 {
     Default();
 }
@@ -360,9 +432,114 @@ void CWnd::OnDestroy()
     Default();
 }
 
+void CWnd::OnEnable(BOOL)
+{
+    Default();
+}
+
+void CWnd::OnGetMinMaxInfo(MINMAXINFO*)
+{
+    Default();
+}
+
+void CWnd::OnKeyDown(UINT, UINT, UINT)
+{
+    Default();
+}
+
+void CWnd::OnKillFocus(CWnd*)
+{
+    Default();
+}
+
+void CWnd::OnLButtonDblClk(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnLButtonDown(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnLButtonUp(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnMouseMove(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnMove(int, int)
+{
+    Default();
+}
+
+void CWnd::OnNcDestroy()
+{
+    Default();
+}
+
+void CWnd::OnPaint()
+{
+    Default();
+}
+
+void CWnd::OnRButtonDown(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnRButtonUp(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnSetFocus(CWnd*)
+{
+    Default();
+}
+
+void CWnd::OnShowWindow(BOOL, UINT)
+{
+    Default();
+}
+
 void CWnd::OnSize(UINT, int, int)
 {
     Default();
+}
+
+void CWnd::OnSysCommand(UINT, LPARAM)
+{
+    Default();
+}
+
+void CWnd::OnTimer(UINT_PTR)
+{
+    Default();
+}
+
+int CWnd::OnCreate(CREATESTRUCTW*)
+{
+    return static_cast<int>(Default());
+}
+
+BOOL CWnd::OnHelpInfo(HELPINFO*)
+{
+    return Default() != 0;
+}
+
+BOOL CWnd::OnNcCreate(CREATESTRUCTW*)
+{
+    return Default() != 0;
+}
+
+BOOL CWnd::OnSetCursor(CWnd*, UINT, UINT)
+{
+    return Default() != 0;
 }
 
 // ---- plain calls ----
@@ -417,6 +594,78 @@ void CWnd::SetDlgItemText(int id, LPCTSTR text) const
     ::SetDlgItemText(m_hWnd, id, text);
 }
 
+namespace {
+HWND HandleOf(const CWnd* window)
+{
+    return window ? window->m_hWnd : nullptr;
+}
+} // namespace
+
+AFX_OF_NULL_TOO HWND CWnd::GetSafeHwnd() const
+{
+    return this ? m_hWnd : nullptr;
+}
+
+CWnd* CWnd::GetTopLevelParent() const
+{
+    HWND top = m_hWnd;
+    while (const HWND parent = top ? ::GetParent(top) : nullptr)
+        top = parent;
+    return FromHandle(top);
+}
+
+CWnd* CWnd::GetFocus()
+{
+    return FromHandle(::GetFocus());
+}
+
+CWnd* CWnd::GetDesktopWindow()
+{
+    return FromHandle(::GetDesktopWindow());
+}
+
+BOOL CWnd::IsChild(const CWnd* window) const
+{
+    return ::IsChild(m_hWnd, HandleOf(window));
+}
+
+void CWnd::CheckRadioButton(int firstId, int lastId, int checkedId)
+{
+    ::CheckRadioButton(m_hWnd, firstId, lastId, checkedId);
+}
+
+int CWnd::GetCheckedRadioButton(int firstId, int lastId) const
+{
+    for (int id = firstId; id <= lastId; ++id)
+        if (::IsDlgButtonChecked(m_hWnd, id))
+            return id;
+    return 0;
+}
+
+int CWnd::GetDlgItemText(int id, CString& text) const
+{
+    text.Empty();
+    const HWND control = ::GetDlgItem(m_hWnd, id);
+    if (control)
+        FromHandle(control)->GetWindowText(text);
+    return text.GetLength();
+}
+
+int CWnd::GetDlgItemText(int id, LPTSTR text, int capacity) const
+{
+    return static_cast<int>(::GetDlgItemText(m_hWnd, id, text, capacity));
+}
+
+void CWnd::SetDlgItemInt(int id, UINT value, BOOL isSigned)
+{
+    ::SetDlgItemInt(m_hWnd, id, value, isSigned);
+}
+
+UINT CWnd::GetDlgItemInt(int id, BOOL* translated, BOOL isSigned) const
+{
+    return ::GetDlgItemInt(m_hWnd, id, translated, isSigned);
+}
+
 void CWnd::SetWindowText(LPCTSTR text)
 {
     ::SetWindowText(m_hWnd, text);
@@ -427,6 +676,11 @@ void CWnd::GetWindowText(CString& text) const
     const int length = ::GetWindowTextLength(m_hWnd);
     const int copied = ::GetWindowText(m_hWnd, text.GetBuffer(length + 1), length + 1);
     text.ReleaseBuffer(copied);
+}
+
+int CWnd::GetWindowText(LPTSTR text, int capacity) const
+{
+    return ::GetWindowText(m_hWnd, text, capacity);
 }
 
 int CWnd::GetWindowTextLength() const
@@ -469,14 +723,63 @@ void CWnd::Invalidate(BOOL erase)
     ::InvalidateRect(m_hWnd, nullptr, erase);
 }
 
-BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add)
+void CWnd::InvalidateRect(const RECT* rect, BOOL erase)
 {
-    const LONG_PTR before = GetWindowLongPtr(m_hWnd, GWL_EXSTYLE);
-    const LONG_PTR after = (before & ~static_cast<LONG_PTR>(remove)) | static_cast<LONG_PTR>(add);
+    ::InvalidateRect(m_hWnd, rect, erase);
+}
+
+void CWnd::SetRedraw(BOOL redraw)
+{
+    SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw));
+}
+
+DWORD CWnd::GetStyle() const
+{
+    return static_cast<DWORD>(GetWindowLongPtr(m_hWnd, GWL_STYLE));
+}
+
+DWORD CWnd::GetExStyle() const
+{
+    return static_cast<DWORD>(GetWindowLongPtr(m_hWnd, GWL_EXSTYLE));
+}
+
+namespace {
+BOOL ModifyBits(HWND window, int which, DWORD remove, DWORD add, UINT flags)
+{
+    const auto before = static_cast<DWORD>(GetWindowLongPtr(window, which));
+    const DWORD after = (before & ~remove) | add;
     if (before == after)
         return FALSE;
-    SetWindowLongPtr(m_hWnd, GWL_EXSTYLE, after);
+    SetWindowLongPtr(window, which, static_cast<LONG_PTR>(after));
+    if (flags)
+        ::SetWindowPos(window, nullptr, 0, 0, 0, 0, flags | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     return TRUE;
+}
+} // namespace
+
+BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT flags)
+{
+    return ModifyBits(m_hWnd, GWL_STYLE, remove, add, flags);
+}
+
+BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add, UINT flags)
+{
+    return ModifyBits(m_hWnd, GWL_EXSTYLE, remove, add, flags);
+}
+
+BOOL CWnd::IsIconic() const
+{
+    return ::IsIconic(m_hWnd);
+}
+
+UINT_PTR CWnd::SetTimer(UINT_PTR id, UINT milliseconds, TIMERPROC procedure)
+{
+    return ::SetTimer(m_hWnd, id, milliseconds, procedure);
+}
+
+BOOL CWnd::KillTimer(UINT_PTR id)
+{
+    return ::KillTimer(m_hWnd, id);
 }
 
 void CWnd::GetClientRect(RECT* rect) const
@@ -494,6 +797,74 @@ void CWnd::MoveWindow(int x, int y, int width, int height, BOOL repaint)
     ::MoveWindow(m_hWnd, x, y, width, height, repaint);
 }
 
+void CWnd::MoveWindow(const RECT* rect, BOOL repaint)
+{
+    MoveWindow(rect->left, rect->top, rect->right - rect->left, rect->bottom - rect->top, repaint);
+}
+
+CWnd::CWnd(HWND place) : m_hWnd(place)
+{
+    PermanentMap(); // which the object's end looks into: it must outlive it
+}
+
+const CWnd CWnd::wndTop(HWND_TOP);
+const CWnd CWnd::wndBottom(HWND_BOTTOM);
+const CWnd CWnd::wndTopMost(HWND_TOPMOST);
+const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
+
+BOOL CWnd::SetWindowPos(const CWnd* after, int x, int y, int width, int height, UINT flags)
+{
+    return ::SetWindowPos(m_hWnd, HandleOf(after), x, y, width, height, flags);
+}
+
+namespace {
+/// What a pop-up is centred on where nobody says otherwise; null for the screen.
+HWND OwnerInSight(HWND popup)
+{
+    const HWND owner = ::GetWindow(popup, GW_OWNER);
+    return owner && ::IsWindowVisible(owner) && !::IsIconic(owner) ? owner : nullptr;
+}
+
+CRect WorkingArea(HWND window)
+{
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfo(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    return monitor.rcWork;
+}
+
+/// The nearest place to `place` where a stretch lies within [low, high]; at its start where it does not fit.
+LONG Within(LONG place, LONG length, LONG low, LONG high)
+{
+    return std::max(low, std::min(place, high - length));
+}
+} // namespace
+
+void CWnd::CenterWindow(CWnd* other)
+{
+    CRect own;
+    GetWindowRect(&own);
+    CRect around;
+    POINT place{};
+    if (GetStyle() & WS_CHILD) {
+        const HWND parent = ::GetParent(m_hWnd);
+        const HWND middle = other ? other->m_hWnd : parent;
+        ::GetClientRect(middle, &around);
+        ::MapWindowPoints(middle, parent, reinterpret_cast<POINT*>(&around), 2);
+        place = {(around.left + around.right - own.Width()) / 2, (around.top + around.bottom - own.Height()) / 2};
+    } else {
+        const HWND middle = other ? other->m_hWnd : OwnerInSight(m_hWnd);
+        const CRect area = WorkingArea(middle ? middle : m_hWnd);
+        if (middle && middle != ::GetDesktopWindow())
+            ::GetWindowRect(middle, &around);
+        else
+            around = area;
+        place.x = Within((around.left + around.right - own.Width()) / 2, own.Width(), area.left, area.right);
+        place.y = Within((around.top + around.bottom - own.Height()) / 2, own.Height(), area.top, area.bottom);
+    }
+    SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void CWnd::ScreenToClient(POINT* point) const
 {
     ::ScreenToClient(m_hWnd, point);
@@ -502,6 +873,16 @@ void CWnd::ScreenToClient(POINT* point) const
 void CWnd::ClientToScreen(POINT* point) const
 {
     ::ClientToScreen(m_hWnd, point);
+}
+
+void CWnd::ScreenToClient(RECT* rect) const
+{
+    ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(rect), 2);
+}
+
+void CWnd::ClientToScreen(RECT* rect) const
+{
+    ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<POINT*>(rect), 2);
 }
 
 int CWnd::MessageBox(LPCTSTR text, LPCTSTR caption, UINT type)

@@ -315,6 +315,304 @@ TEST(MessageMapOfAFile, IsNotTakenForThatOfAnEquallyNamedClassInAnotherFile)
     });
 }
 
+// ---- what entries take apart ----
+
+/// Notes each message with what its handler was given.
+class CCrackingWindow : public CWnd {
+public:
+    bool Open()
+    {
+        return CreateEx(0, AfxRegisterWndClass(CS_DBLCLKS), L"Окно", WS_OVERLAPPEDWINDOW, CRect(10, 10, 310, 210),
+                        nullptr, 0);
+    }
+    std::string Take()
+    {
+        std::string taken;
+        taken.swap(m_noted);
+        return taken;
+    }
+
+protected:
+    std::string Id(const CWnd* window) const { return !window ? "none" : window == this ? "self" : "other"; }
+    void Note(const std::string& what) { m_noted = what; }
+    void NotePoint(const char* what, UINT flags, CPoint point)
+    {
+        Note(what + std::to_string(flags) + " " + std::to_string(point.x) + " " + std::to_string(point.y));
+    }
+    void OnActivate(UINT state, CWnd* other, BOOL minimized)
+    {
+        Note("activate " + std::to_string(state) + " " + Id(other) + " " + std::to_string(minimized));
+    }
+    void OnContextMenu(CWnd* window, CPoint point) { NotePoint(("menu " + Id(window) + " ").c_str(), 0, point); }
+    int OnCreate(CREATESTRUCTW* create)
+    {
+        createdWidth = create->cx;
+        return refusesCreation ? -1 : CWnd::OnCreate(create);
+    }
+    void OnEnable(BOOL enabled) { Note("enable " + std::to_string(enabled)); }
+    void OnGetMinMaxInfo(MINMAXINFO* limits)
+    {
+        CWnd::OnGetMinMaxInfo(limits);
+        if (createdWidth) // once it exists
+            limits->ptMinTrackSize = {250, 150};
+    }
+    void OnKeyDown(UINT key, UINT repeatCount, UINT flags)
+    {
+        Note("key " + std::to_string(key) + " " + std::to_string(repeatCount) + " " + std::to_string(flags));
+    }
+    void OnKillFocus(CWnd* next) { Note("focus to " + Id(next)); }
+    void OnLButtonDblClk(UINT flags, CPoint point) { NotePoint("double ", flags, point); }
+    void OnLButtonDown(UINT flags, CPoint point) { NotePoint("left down ", flags, point); }
+    void OnLButtonUp(UINT flags, CPoint point) { NotePoint("left up ", flags, point); }
+    void OnMouseMove(UINT flags, CPoint point) { NotePoint("moved ", flags, point); }
+    void OnMove(int x, int y) { Note("placed " + std::to_string(x) + " " + std::to_string(y)); }
+    void OnNcDestroy()
+    {
+        Note("gone");
+        CWnd::OnNcDestroy();
+    }
+    void OnPaint()
+    {
+        ::ValidateRect(m_hWnd, nullptr);
+        Note("paint");
+    }
+    void OnRButtonDown(UINT flags, CPoint point) { NotePoint("right down ", flags, point); }
+    void OnRButtonUp(UINT flags, CPoint point) { NotePoint("right up ", flags, point); }
+    BOOL OnSetCursor(CWnd* window, UINT hitTest, UINT message)
+    {
+        Note("cursor " + Id(window) + " " + std::to_string(hitTest) + " " + std::to_string(message));
+        return TRUE;
+    }
+    void OnSetFocus(CWnd* previous) { Note("focus from " + Id(previous)); }
+    void OnShowWindow(BOOL shown, UINT status) { Note("show " + std::to_string(shown) + " " + std::to_string(status)); }
+    void OnSysCommand(UINT id, LPARAM lParam) { Note("system " + std::to_string(id) + " " + std::to_string(lParam)); }
+    void OnTimer(UINT_PTR id) { Note("timer " + std::to_string(id)); }
+    DECLARE_MESSAGE_MAP()
+
+public:
+    int createdWidth = 0;
+    bool refusesCreation = false;
+
+private:
+    std::string m_noted;
+};
+
+BEGIN_MESSAGE_MAP(CCrackingWindow, CWnd)
+    ON_WM_ACTIVATE()
+    ON_WM_CONTEXTMENU()
+    ON_WM_CREATE()
+    ON_WM_ENABLE()
+    ON_WM_GETMINMAXINFO()
+    ON_WM_KEYDOWN()
+    ON_WM_KILLFOCUS()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOVE()
+    ON_WM_NCDESTROY()
+    ON_WM_PAINT()
+    ON_WM_RBUTTONDOWN()
+    ON_WM_RBUTTONUP()
+    ON_WM_SETCURSOR()
+    ON_WM_SETFOCUS()
+    ON_WM_SHOWWINDOW()
+    ON_WM_SYSCOMMAND()
+    ON_WM_TIMER()
+END_MESSAGE_MAP()
+
+class MessagesOfAWindow : public testing::Test {
+protected:
+    MessagesOfAWindow()
+    {
+        OnUi([this] { EXPECT_TRUE(window.Open()); });
+    }
+    ~MessagesOfAWindow() override
+    {
+        OnUi([this] { window.DestroyWindow(); });
+    }
+    /// What is noted of a message.
+    std::string Noted(UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
+    {
+        return ui::On([&] {
+            window.Take();
+            window.SendMessage(message, wParam, lParam);
+            return window.Take();
+        });
+    }
+    WPARAM Self() const { return reinterpret_cast<WPARAM>(window.m_hWnd); }
+    CCrackingWindow window;
+};
+
+TEST_F(MessagesOfAWindow, AreHandedOverInTheirParts)
+{
+    const auto desktop = reinterpret_cast<WPARAM>(GetDesktopWindow());
+    const LPARAM negative = MAKELPARAM(-3, -4);
+    EXPECT_EQ("activate 1 self 1", Noted(WM_ACTIVATE, MAKEWPARAM(WA_ACTIVE, 1), static_cast<LPARAM>(Self())));
+    EXPECT_EQ("menu self 0 -3 -4", Noted(WM_CONTEXTMENU, Self(), negative));
+    EXPECT_EQ("menu other 0 -1 -1", Noted(WM_CONTEXTMENU, desktop, -1));
+    EXPECT_EQ("enable 1", Noted(WM_ENABLE, TRUE));
+    EXPECT_EQ("key 13 2 28", Noted(WM_KEYDOWN, VK_RETURN, MAKELPARAM(2, 0x1C)));
+    EXPECT_EQ("focus to none", Noted(WM_KILLFOCUS));
+    EXPECT_EQ("focus from other", Noted(WM_SETFOCUS, desktop));
+    EXPECT_EQ("double 1 -3 -4", Noted(WM_LBUTTONDBLCLK, MK_LBUTTON, negative));
+    EXPECT_EQ("left down 1 5 6", Noted(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 6)));
+    EXPECT_EQ("left up 0 5 6", Noted(WM_LBUTTONUP, 0, MAKELPARAM(5, 6)));
+    EXPECT_EQ("right down 2 5 6", Noted(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(5, 6)));
+    EXPECT_EQ("right up 0 5 6", Noted(WM_RBUTTONUP, 0, MAKELPARAM(5, 6)));
+    EXPECT_EQ("moved 0 -3 -4", Noted(WM_MOUSEMOVE, 0, negative));
+    EXPECT_EQ("placed -3 -4", Noted(WM_MOVE, 0, negative));
+    EXPECT_EQ("paint", Noted(WM_PAINT));
+    EXPECT_EQ("cursor self 1 512", Noted(WM_SETCURSOR, Self(), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
+    EXPECT_EQ("show 1 3", Noted(WM_SHOWWINDOW, TRUE, SW_PARENTOPENING));
+    EXPECT_EQ("system 61728 7", Noted(WM_SYSCOMMAND, SC_RESTORE, 7));
+}
+
+TEST_F(MessagesOfAWindow, LimitTheSizeThatAPersonMayGiveIt)
+{
+    const CRect size = ui::On([this] {
+        window.MoveWindow(10, 10, 100, 90);
+        CRect rect;
+        window.GetWindowRect(rect);
+        return rect;
+    });
+    EXPECT_EQ(250, size.Width());
+    EXPECT_EQ(150, size.Height());
+}
+
+TEST_F(MessagesOfAWindow, MayRefuseItsCreation)
+{
+    EXPECT_EQ(300, window.createdWidth);
+    CCrackingWindow other;
+    other.refusesCreation = true;
+    EXPECT_FALSE(ui::On([&] { return other.Open(); }));
+    EXPECT_EQ(nullptr, other.m_hWnd);
+    EXPECT_EQ("gone", other.Take());
+}
+
+TEST_F(MessagesOfAWindow, TellItsTimersApart)
+{
+    OnUi([this] {
+        window.Take();
+        EXPECT_EQ(21U, window.SetTimer(21, 10, nullptr));
+    });
+    EXPECT_TRUE(ui::WaitUntil([this] { return ui::On([this] { return window.Take(); }) == "timer 21"; }));
+    EXPECT_TRUE(ui::On([this] { return window.KillTimer(21); }));
+}
+
+// ---- commands and notifications by a range of ids, and those of common controls ----
+
+class CRangeWindow : public CWnd {
+public:
+    bool Open() { return CreateEx(0, AfxRegisterWndClass(0), L"Окно", WS_POPUP, CRect(), nullptr, 0); }
+    Log log;
+    BOOL goesNoFurther = TRUE;
+
+protected:
+    void OnAnyCommand(UINT id) { Note("command ", id); }
+    void OnAnyChange(UINT id) { Note("change ", id); }
+    BOOL OnCommandOrOn(UINT id)
+    {
+        Note("command or on ", id);
+        return goesNoFurther;
+    }
+    void OnNotice(NMHDR* header, LRESULT* result)
+    {
+        Note("notice ", static_cast<UINT>(header->idFrom));
+        *result = 77;
+    }
+    void OnAnyNotice(UINT id, NMHDR*, LRESULT* result)
+    {
+        Note("any notice ", id);
+        *result = 78;
+    }
+    BOOL OnNoticeOrOn(UINT id, NMHDR*, LRESULT* result)
+    {
+        Note("notice or on ", id);
+        *result = 79;
+        return goesNoFurther;
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void Note(const char* what, UINT id) { log.push_back(what + std::to_string(id)); }
+};
+
+BEGIN_MESSAGE_MAP(CRangeWindow, CWnd)
+    ON_COMMAND_RANGE(0x8010, 0x8012, &CRangeWindow::OnAnyCommand)
+    ON_COMMAND_EX(0x8020, &CRangeWindow::OnCommandOrOn)
+    ON_CONTROL_RANGE(EN_CHANGE, 30, 32, &CRangeWindow::OnAnyChange)
+    ON_NOTIFY(NM_CLICK, 40, &CRangeWindow::OnNotice)
+    ON_NOTIFY_RANGE(NM_DBLCLK, 40, 41, &CRangeWindow::OnAnyNotice)
+    ON_NOTIFY_EX(NM_RCLICK, 40, &CRangeWindow::OnNoticeOrOn)
+    ON_NOTIFY_EX_RANGE(NM_RETURN, 40, 41, &CRangeWindow::OnNoticeOrOn)
+END_MESSAGE_MAP()
+
+class RangesOfIds : public testing::Test {
+protected:
+    RangesOfIds()
+    {
+        OnUi([this] {
+            EXPECT_TRUE(window.Open());
+            for (const UINT id : {40U, 41U})
+                EXPECT_TRUE(controls[id - 40].CreateEx(0, L"STATIC", L"", WS_CHILD, CRect(), &window, id));
+        });
+    }
+    ~RangesOfIds() override
+    {
+        OnUi([this] { window.DestroyWindow(); });
+    }
+    LRESULT Notice(UINT id, UINT code)
+    {
+        // Of a tool tip it names no control but the tool.
+        NMHDR header{controls[id - 40].m_hWnd, 1234, code};
+        return window.SendMessage(WM_NOTIFY, 1234, reinterpret_cast<LPARAM>(&header));
+    }
+    LRESULT Command(UINT id, UINT code = 0)
+    {
+        return window.SendMessage(WM_COMMAND, MAKEWPARAM(id, code), code ? reinterpret_cast<LPARAM>(window.m_hWnd) : 0);
+    }
+    CRangeWindow window;
+    CWnd controls[2];
+};
+
+TEST_F(RangesOfIds, ShareOneHandlerThatIsToldWhichItWas)
+{
+    for (const UINT id : {0x800FU, 0x8010U, 0x8012U, 0x8013U})
+        EXPECT_EQ(id == 0x8010 || id == 0x8012, Command(id)) << id;
+    for (const UINT id : {29U, 30U, 32U, 33U})
+        Command(id, EN_CHANGE);
+    EXPECT_EQ(0, Command(31, EN_UPDATE));
+    EXPECT_EQ((Log{"command 32784", "command 32786", "change 30", "change 32"}), window.log);
+}
+
+TEST_F(RangesOfIds, MayLetACommandGoOn)
+{
+    EXPECT_EQ(1, Command(0x8020));
+    window.goesNoFurther = FALSE;
+    EXPECT_EQ(0, Command(0x8020));
+    EXPECT_EQ((Log{"command or on 32800", "command or on 32800"}), window.log);
+}
+
+TEST_F(RangesOfIds, AnswerTheNotificationsOfCommonControls)
+{
+    EXPECT_EQ(77, Notice(40, NM_CLICK));
+    EXPECT_EQ(0, Notice(41, NM_CLICK));
+    EXPECT_EQ(0, Notice(40, NM_SETFOCUS));
+    EXPECT_EQ(78, Notice(40, NM_DBLCLK));
+    EXPECT_EQ(78, Notice(41, NM_DBLCLK));
+    EXPECT_EQ((Log{"notice 1234", "any notice 40", "any notice 41"}), window.log);
+}
+
+TEST_F(RangesOfIds, MayLetANotificationGoOn)
+{
+    EXPECT_EQ(79, Notice(40, NM_RCLICK));
+    EXPECT_EQ(79, Notice(41, NM_RETURN));
+    window.goesNoFurther = FALSE;
+    EXPECT_EQ(0, Notice(40, NM_RCLICK)) << "default processing answers";
+    EXPECT_EQ((Log{"notice or on 40", "notice or on 41", "notice or on 40"}), window.log);
+}
+
 // ---- where commands go that a dialog does not handle ----
 
 class CRoutingApp : public CWinApp {

@@ -25,7 +25,10 @@ public:
         if (IsWindow(window))
             ui::UiThread::Get().Call([this] {
                 for (const HWND open : ui::TopLevelWindows())
-                    EndDialog(open, IDCANCEL);
+                    if (auto* const dialog = dynamic_cast<CDialog*>(CWnd::FromHandlePermanent(open)))
+                        dialog->EndDialog(IDCANCEL);
+                    else
+                        EndDialog(open, IDCANCEL);
                 SendMessage(window, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
             });
         ui::UiThread::Get().WaitForStarted();

@@ -29,6 +29,28 @@ WNDPROC ProcedureOf(HWND window)
     return reinterpret_cast<WNDPROC>(GetWindowLongPtr(window, GWLP_WNDPROC));
 }
 
+CRect PlaceOf(const CWnd& window)
+{
+    CRect place;
+    window.GetWindowRect(place);
+    return place;
+}
+
+/// Of the screen.
+CRect WorkingArea()
+{
+    CRect area;
+    SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
+    return area;
+}
+
+CRect Middle(const CRect& area, int width, int height)
+{
+    const int left = (area.left + area.right - width) / 2;
+    const int top = (area.top + area.bottom - height) / 2;
+    return {left, top, left + width, top + height};
+}
+
 // ---- objects and windows ----
 
 TEST(Window, IsItsObjectsAsLongAsBothLive)
@@ -497,6 +519,275 @@ TEST(Rectangle, TellsItsSizeMiddleAndPoints)
     EXPECT_EQ(40, rect.CenterPoint().y);
     EXPECT_TRUE(rect.PtInRect(CPoint(10, 20)));
     EXPECT_FALSE(rect.PtInRect(CPoint(40, 30)));
+}
+
+// ---- finding its place ----
+
+TEST(Window, IsCentredOnItsOwner)
+{
+    OnUi([] {
+        CPlainWindow owner;
+        ASSERT_TRUE(owner.Open());
+        owner.MoveWindow(CRect(100, 100, 500, 400));
+        owner.ShowWindow(SW_SHOWNOACTIVATE);
+        CWnd popup;
+        ASSERT_TRUE(popup.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 60, 40), &owner, 0));
+        popup.CenterWindow();
+        EXPECT_TRUE(PlaceOf(popup) == CRect(270, 230, 330, 270));
+        owner.ShowWindow(SW_HIDE);
+        popup.CenterWindow();
+        EXPECT_TRUE(PlaceOf(popup) == Middle(WorkingArea(), 60, 40)) << "an owner that nobody sees";
+    });
+}
+
+TEST(Window, IsCentredOnTheScreenWithoutAnOwner)
+{
+    OnUi([] {
+        CPlainWindow popup;
+        ASSERT_TRUE(popup.Open());
+        popup.CenterWindow();
+        EXPECT_TRUE(PlaceOf(popup) == Middle(WorkingArea(), 100, 50));
+    });
+}
+
+TEST(Window, IsCentredOnAnotherOneIfTold)
+{
+    OnUi([] {
+        CPlainWindow other;
+        ASSERT_TRUE(other.Open());
+        other.MoveWindow(CRect(100, 100, 500, 400));
+        CPlainWindow popup;
+        ASSERT_TRUE(popup.Open());
+        popup.CenterWindow(&other);
+        EXPECT_TRUE(PlaceOf(popup) == CRect(250, 225, 350, 275));
+        popup.CenterWindow(CWnd::GetDesktopWindow());
+        EXPECT_TRUE(PlaceOf(popup) == Middle(WorkingArea(), 100, 50));
+    });
+}
+
+TEST(Window, StaysOnTheScreenWhereItsOwnerIsAtTheEdge)
+{
+    OnUi([] {
+        CPlainWindow owner;
+        ASSERT_TRUE(owner.Open());
+        owner.MoveWindow(CRect(-80, -30, 20, 20));
+        owner.ShowWindow(SW_SHOWNOACTIVATE);
+        CWnd popup;
+        ASSERT_TRUE(popup.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 60, 40), &owner, 0));
+        popup.CenterWindow();
+        EXPECT_EQ(WorkingArea().left, PlaceOf(popup).left);
+        EXPECT_EQ(WorkingArea().top, PlaceOf(popup).top);
+    });
+}
+
+TEST(Window, IsCentredOnItsParentAsAChild)
+{
+    OnUi([] {
+        CPlainWindow parent;
+        ASSERT_TRUE(parent.Open());
+        parent.MoveWindow(CRect(100, 100, 500, 400));
+        CWnd child;
+        ASSERT_TRUE(child.CreateEx(0, L"STATIC", L"", WS_CHILD, CRect(0, 0, 60, 40), &parent, 0));
+        child.CenterWindow();
+        EXPECT_TRUE(PlaceOf(child) == CRect(270, 230, 330, 270));
+    });
+}
+
+TEST(Window, IsPutWhereAndBehindWhatItIsTold)
+{
+    OnUi([] {
+        CPlainWindow parent;
+        ASSERT_TRUE(parent.Open());
+        CWnd first;
+        CWnd second;
+        ASSERT_TRUE(first.CreateEx(0, L"STATIC", L"", WS_CHILD, CRect(0, 0, 9, 9), &parent, 1));
+        ASSERT_TRUE(second.CreateEx(0, L"STATIC", L"", WS_CHILD, CRect(0, 0, 9, 9), &parent, 2));
+        EXPECT_EQ(&first, parent.GetWindow(GW_CHILD));
+        EXPECT_TRUE(first.SetWindowPos(&second, 3, 4, 20, 30, 0));
+        EXPECT_EQ(&second, parent.GetWindow(GW_CHILD));
+        CRect place = PlaceOf(first);
+        parent.ScreenToClient(place);
+        EXPECT_EQ(20, place.Width());
+        EXPECT_EQ(3, place.left);
+        EXPECT_EQ(4, place.top);
+        EXPECT_TRUE(first.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
+        EXPECT_EQ(&first, parent.GetWindow(GW_CHILD));
+        EXPECT_TRUE(first.SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
+        EXPECT_EQ(&second, parent.GetWindow(GW_CHILD));
+        EXPECT_TRUE(parent.SetWindowPos(&CWnd::wndTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
+        EXPECT_TRUE(parent.GetExStyle() & WS_EX_TOPMOST);
+        EXPECT_TRUE(parent.SetWindowPos(&CWnd::wndNoTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
+        EXPECT_FALSE(parent.GetExStyle() & WS_EX_TOPMOST);
+        EXPECT_TRUE(first.SetWindowPos(nullptr, 5, 5, 0, 0, SWP_NOSIZE | SWP_NOZORDER));
+    });
+}
+
+TEST(Rectangle, KnowsItsParts)
+{
+    CRect rect(CPoint(10, 20), CSize(30, 40));
+    EXPECT_TRUE(rect == CRect(10, 20, 40, 60));
+    EXPECT_FALSE(rect == CRect(10, 20, 40, 61));
+    EXPECT_TRUE(rect.Size() == CSize(30, 40));
+    EXPECT_TRUE(rect.TopLeft() == CPoint(10, 20));
+    EXPECT_TRUE(rect.BottomRight() == CPoint(40, 60));
+    EXPECT_FALSE(rect.BottomRight() == CPoint(40, 61));
+    EXPECT_TRUE(rect.CenterPoint() == CPoint(25, 40));
+    rect.InflateRect(1, 2);
+    EXPECT_TRUE(rect == CRect(9, 18, 41, 62));
+    rect.DeflateRect(1, 2);
+    rect.OffsetRect(5, -5);
+    EXPECT_TRUE(rect == CRect(15, 15, 45, 55));
+    EXPECT_FALSE(rect.IsRectEmpty());
+    EXPECT_TRUE(CRect(5, 5, 5, 9).IsRectEmpty());
+}
+
+TEST(Window, TellsPlacesOnTheScreenAndInItself)
+{
+    OnUi([] {
+        CPlainWindow window;
+        ASSERT_TRUE(window.Open()); // at 10, 20
+        CRect rect(1, 2, 3, 4);
+        window.ClientToScreen(rect);
+        EXPECT_TRUE(rect == CRect(11, 22, 13, 24));
+        window.ScreenToClient(rect);
+        EXPECT_TRUE(rect == CRect(1, 2, 3, 4));
+    });
+}
+
+// ---- controls by their ids ----
+
+class ControlsById : public testing::Test {
+protected:
+    ControlsById()
+    {
+        OnUi([this] { EXPECT_TRUE(dialog.Create(IDD_EXCHANGE)); });
+    }
+    ~ControlsById() override
+    {
+        OnUi([this] { dialog.DestroyWindow(); });
+    }
+    CDialog dialog;
+};
+
+TEST_F(ControlsById, HoldWholeNumbers)
+{
+    OnUi([this] {
+        dialog.SetDlgItemInt(IDC_NUMBER, static_cast<UINT>(-42));
+        EXPECT_EQ(L"-42", ui::TextOf(dialog, IDC_NUMBER));
+        BOOL translated = FALSE;
+        EXPECT_EQ(-42, static_cast<int>(dialog.GetDlgItemInt(IDC_NUMBER, &translated)));
+        EXPECT_TRUE(translated);
+        dialog.SetDlgItemInt(IDC_NUMBER, 4000000000U, FALSE);
+        EXPECT_EQ(0U, dialog.GetDlgItemInt(IDC_NUMBER, &translated));
+        EXPECT_FALSE(translated) << "too large for a number with a sign";
+        EXPECT_EQ(L"4000000000", ui::TextOf(dialog, IDC_NUMBER));
+        EXPECT_EQ(4000000000U, dialog.GetDlgItemInt(IDC_NUMBER, nullptr, FALSE));
+        dialog.SetDlgItemText(IDC_NUMBER, L"x");
+        EXPECT_EQ(0U, dialog.GetDlgItemInt(IDC_NUMBER, &translated));
+        EXPECT_FALSE(translated);
+    });
+}
+
+TEST_F(ControlsById, TellTheirTexts)
+{
+    OnUi([this] {
+        dialog.SetDlgItemText(IDC_TEXT, L"Подача");
+        CString text;
+        EXPECT_EQ(6, dialog.GetDlgItemText(IDC_TEXT, text));
+        EXPECT_STREQ(L"Подача", text);
+        wchar_t room[4] = L"";
+        EXPECT_EQ(3, dialog.GetDlgItemText(IDC_TEXT, room, 4));
+        EXPECT_STREQ(L"Под", room);
+        EXPECT_EQ(3, dialog.GetDlgItem(IDC_TEXT)->GetWindowText(room, 4));
+        EXPECT_EQ(0, dialog.GetDlgItemText(IDC_MISSING, text));
+        EXPECT_STREQ(L"", text);
+    });
+}
+
+TEST_F(ControlsById, AreOneRadioButtonOnOfARange)
+{
+    OnUi([this] {
+        EXPECT_EQ(0, dialog.GetCheckedRadioButton(IDC_FIRST_RADIO, IDC_THIRD_RADIO));
+        dialog.CheckDlgButton(IDC_THIRD_RADIO, BST_CHECKED);
+        dialog.CheckRadioButton(IDC_FIRST_RADIO, IDC_THIRD_RADIO, IDC_SECOND_RADIO);
+        EXPECT_EQ(IDC_SECOND_RADIO, dialog.GetCheckedRadioButton(IDC_FIRST_RADIO, IDC_THIRD_RADIO));
+        EXPECT_FALSE(dialog.IsDlgButtonChecked(IDC_THIRD_RADIO));
+    });
+}
+
+TEST_F(ControlsById, AreOfTheirDialog)
+{
+    OnUi([this] {
+        CWnd* const edit = dialog.GetDlgItem(IDC_NUMBER);
+        EXPECT_TRUE(dialog.IsChild(edit));
+        EXPECT_FALSE(edit->IsChild(&dialog));
+        EXPECT_FALSE(dialog.IsChild(nullptr));
+        EXPECT_EQ(&dialog, edit->GetTopLevelParent());
+        EXPECT_EQ(&dialog, dialog.GetTopLevelParent());
+        CDialog owned;
+        ASSERT_TRUE(owned.Create(IDD_NUMBER, &dialog));
+        EXPECT_EQ(&dialog, owned.GetTopLevelParent());
+        dialog.ShowWindow(SW_SHOW);
+        edit->SetFocus();
+        EXPECT_EQ(edit->m_hWnd, CWnd::GetFocus()->m_hWnd);
+    });
+}
+
+// ---- styles and handles ----
+
+TEST(Window, ChangesItsStyleAndDrawsItsFrameAnew)
+{
+    OnUi([] {
+        CPlainWindow window;
+        ASSERT_TRUE(window.Open());
+        EXPECT_FALSE(window.GetStyle() & WS_BORDER);
+        EXPECT_TRUE(window.ModifyStyle(0, WS_BORDER, SWP_FRAMECHANGED));
+        EXPECT_TRUE(window.GetStyle() & WS_BORDER);
+        CRect client;
+        window.GetClientRect(client);
+        EXPECT_EQ(98, client.Width());
+        EXPECT_FALSE(window.ModifyStyle(0, WS_BORDER));
+        EXPECT_TRUE(window.ModifyStyleEx(0, WS_EX_TOOLWINDOW));
+        EXPECT_TRUE(window.GetExStyle() & WS_EX_TOOLWINDOW);
+        EXPECT_FALSE(window.IsIconic());
+    });
+}
+
+TEST(Window, HoldsItsPaintingBack)
+{
+    OnUi([] {
+        CPlainWindow window;
+        ASSERT_TRUE(window.Open());
+        window.ShowWindow(SW_SHOWNOACTIVATE);
+        window.UpdateWindow();
+        window.SetRedraw(FALSE);
+        window.Invalidate();
+        EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE));
+        window.SetRedraw();
+        const CRect corner(0, 0, 5, 5);
+        window.InvalidateRect(&corner);
+        EXPECT_TRUE(GetUpdateRect(window, nullptr, FALSE));
+    });
+}
+
+/// No check of pointers here, as the framework documents the call for a null one.
+#ifdef __GNUC__
+__attribute__((no_sanitize("undefined")))
+#endif
+HWND SafeHandleOf(const CWnd* window)
+{
+    return window->GetSafeHwnd();
+}
+
+TEST(Window, HasAHandleThatIsSafeToAskFor)
+{
+    OnUi([] {
+        CPlainWindow window;
+        EXPECT_EQ(nullptr, SafeHandleOf(&window));
+        ASSERT_TRUE(window.Open());
+        EXPECT_EQ(window.m_hWnd, SafeHandleOf(&window));
+        EXPECT_EQ(nullptr, SafeHandleOf(nullptr));
+    });
 }
 
 } // namespace

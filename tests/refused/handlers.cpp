@@ -12,6 +12,14 @@ protected:
     void OnSize(UINT type, int width, int height);
     BOOL OnNcCreate(CREATESTRUCT* create);
     BOOL OnHelpInfo(HELPINFO* info);
+    void OnAnyOf(UINT id);
+    BOOL OnOneOrOn(UINT id);
+    void OnNotice(NMHDR* header, LRESULT* result);
+    void OnAnyNotice(UINT id, NMHDR* header, LRESULT* result);
+    BOOL OnNoticeOrOn(UINT id, NMHDR* header, LRESULT* result);
+    void OnTimer(UINT_PTR id);
+    void OnGetMinMaxInfo(MINMAXINFO* limits);
+    void OnContextMenu(CWnd* window, CPoint point);
     DECLARE_MESSAGE_MAP()
 };
 
@@ -30,6 +38,16 @@ BEGIN_MESSAGE_MAP(CPanel, CDialog)
     ON_WM_SIZE()
     ON_WM_NCCREATE()
     ON_WM_HELPINFO()
+    ON_COMMAND_RANGE(1, 2, &CPanel::OnAnyOf)
+    ON_CONTROL_RANGE(EN_CHANGE, 1, 2, &CPanel::OnAnyOf)
+    ON_COMMAND_EX(1, &CPanel::OnOneOrOn)
+    ON_NOTIFY(NM_CLICK, 1, &CPanel::OnNotice)
+    ON_NOTIFY_RANGE(NM_CLICK, 1, 2, &CPanel::OnAnyNotice)
+    ON_NOTIFY_EX(NM_CLICK, 1, &CPanel::OnNoticeOrOn)
+    ON_NOTIFY_EX_RANGE(NM_CLICK, 1, 2, &CPanel::OnNoticeOrOn)
+    ON_WM_TIMER()
+    ON_WM_GETMINMAXINFO()
+    ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
 
 class CDerivedPanel : public CPanel {
