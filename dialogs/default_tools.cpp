@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "PelmarDlgs/saving.h"
+#include "PelmarDlgs/settings_reading.h"
 #include "PelmarDlgs/settings_values.h"
 #include "dialogs/default_tools_controls.h"
 #include "frame/tool_library.h"
@@ -138,6 +139,7 @@ void CDefsNCToolsInfo::Save()
 
 void CDefsNCToolsInfo::Restore()
 {
+    const SettingsReading oneVersion;
     for (const SettingsRow& row : kSettings)
         this->*row.value = ReadWhole(kSection, row.key, this->*row.value);
 }

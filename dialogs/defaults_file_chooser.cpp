@@ -13,6 +13,7 @@
 #include "dialogs/folder_browser.h"
 #include "dialogs/restart_question.h"
 #include "frame/fixed_text.h"
+#include "frame/held_file.h"
 #include "frame/module.h"
 #include "frame/profile.h"
 #include "pages/page_controls.h"
@@ -151,6 +152,7 @@ void CNCDefaultPath::DoDataExchange(CDataExchange* exchange)
 
 void CNCDefaultPath::ReadFromIni(const char* file)
 {
+    const HeldFile oneVersion(file);
     m_state->folder = FixedText<kFolderCapacity>::FromProfile(kFolderSection, kFolderKey, "", file).c_str();
     m_state->startupKey = NameText::FromProfile(kStartupSection, kStartupKey, "NCCurrentFileName", file).c_str();
     m_state->file = NameText::FromProfile(kFilesSection, m_state->startupKey.c_str(), "CURRENT.INI", file).c_str();

@@ -7,6 +7,7 @@
 #include "PelmarDlgs/settings_values.h"
 #include "dialogs/nc_defaults_controls.h"
 #include "dialogs/restart_question.h"
+#include "frame/held_file.h"
 #include "frame/profile.h"
 #include "frame/tool_library.h"
 #include "pages/page_controls.h"
@@ -46,6 +47,12 @@ void WriteHostWhole(const char* section, const char* key, int value)
 {
     profile::WriteText(section, key, std::to_string(value).c_str(), GetSettingsLocations().hostSettingsFile.c_str());
 }
+
+/// What is read while it lives is of one version of each file.
+struct FilesAsOfNow {
+    HeldFile hostSettings{GetSettingsLocations().hostSettingsFile.c_str()};
+    HeldFile defaults{GetSettingsLocations().defaultsFile.c_str()};
+};
 
 int ReadHostDefault(const char* key)
 {
@@ -194,6 +201,7 @@ void CDefsNCDefaultsDlg::SetData(OptNCDefData* data)
 BOOL CDefsNCDefaultsDlg::OnInitDialog()
 {
     CNCDialog::OnInitDialog();
+    const FilesAsOfNow files;
     m_state->values.displayMode = Normalised(ReadHostWhole(kDisplaySection, kDisplayMode, m_state->values.displayMode));
     m_state->values.menuIcons = Normalised(ReadHostWhole(kDisplaySection, kMenuIcons, m_state->values.menuIcons));
     EnableControl(*this, IDC_NCDEF_MENU_ICONS, m_state->values.displayMode == 1);
@@ -228,6 +236,7 @@ LRESULT CDefsNCDefaultsDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lPara
 
 LRESULT CDefsNCDefaultsDlg::SetDefaults(WPARAM, LPARAM)
 {
+    const FilesAsOfNow files;
     m_state->values.displayMode = ReadHostDefault(kDisplayMode);
     m_state->values.menuIcons = IsOne(ReadHostDefault(kMenuIcons));
     m_state->values.defToLastMaterial = IsOne(ReadDefaultWhole(global_section::kStartUp, global_key::kLastMaterial, 0));
