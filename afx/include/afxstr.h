@@ -2,9 +2,11 @@
 // order and the capital letters of the user's language, string resources.
 #pragma once
 
+#include <cctype>
 #include <cstdarg>
 #include <cstdio>
 #include <cwchar>
+#include <cwctype>
 #include <string>
 
 #ifdef _WIN32
@@ -32,6 +34,8 @@ template <> struct AfxCharTraits<char> {
     }
     static int CompareNoCase(const char* a, const char* b) { return lstrcmpiA(a, b); }
     static void Upper(char* text, size_t length) { CharUpperBuffA(text, static_cast<DWORD>(length)); }
+    static void Lower(char* text, size_t length) { CharLowerBuffA(text, static_cast<DWORD>(length)); }
+    static bool IsBlank(char character) { return std::isspace(static_cast<unsigned char>(character)) != 0; }
     static bool Load(UINT id, std::wstring& text) { return AfxLoadText(id, text); }
 };
 
@@ -45,6 +49,8 @@ template <> struct AfxCharTraits<wchar_t> {
     }
     static int CompareNoCase(const wchar_t* a, const wchar_t* b) { return lstrcmpiW(a, b); }
     static void Upper(wchar_t* text, size_t length) { CharUpperBuffW(text, static_cast<DWORD>(length)); }
+    static void Lower(wchar_t* text, size_t length) { CharLowerBuffW(text, static_cast<DWORD>(length)); }
+    static bool IsBlank(wchar_t character) { return std::iswspace(static_cast<wint_t>(character)) != 0; }
     static bool Load(UINT id, std::wstring& text) { return AfxLoadText(id, text); }
 };
 #else
@@ -58,10 +64,12 @@ template <> struct AfxCharTraits<char> {
     {
         std::vsnprintf(out, size, format, arguments);
     }
+    static bool IsBlank(char character) { return std::isspace(static_cast<unsigned char>(character)) != 0; }
 };
 
 template <> struct AfxCharTraits<wchar_t> {
     using Other = char;
+    static bool IsBlank(wchar_t character) { return std::iswspace(static_cast<wint_t>(character)) != 0; }
 };
 #endif
 
@@ -83,6 +91,14 @@ public:
     int GetLength() const { return static_cast<int>(m_text.size()); }
     bool IsEmpty() const { return m_text.empty(); }
     void Empty() { m_text.clear(); }
+    CStringT& Append(const Char* text) { return *this += text; }
+    CStringT& AppendChar(Char character) { return *this += character; }
+    /// Ignored for a position that the text does not have.
+    void SetAt(int index, Char character)
+    {
+        if (index >= 0 && index < GetLength())
+            m_text[Count(index)] = character;
+    }
     /// The character at a position, the terminator at any that the text does not have.
     Char GetAt(int index) const { return index >= 0 && index < GetLength() ? m_text[Count(index)] : Char{}; }
 
@@ -110,6 +126,110 @@ public:
         return *this;
     }
 
+    CStringT& MakeLower()
+    {
+        Traits::Lower(m_text.data(), m_text.size());
+        return *this;
+    }
+    CStringT& MakeReverse()
+    {
+        m_text.assign(m_text.rbegin(), m_text.rend());
+        return *this;
+    }
+    int FindOneOf(const Char* characters) const { return Position(m_text.find_first_of(OrEmpty(characters))); }
+
+    // Without an argument white space is trimmed off; else the one character, or each of the given ones.
+    CStringT& TrimLeft()
+    {
+        size_t first = 0;
+        while (first < m_text.size() && Traits::IsBlank(m_text[first]))
+            ++first;
+        m_text.erase(0, first);
+        return *this;
+    }
+    CStringT& TrimLeft(Char target) { return TrimLeft(CStringT(target).GetString()); }
+    CStringT& TrimLeft(const Char* targets)
+    {
+        m_text.erase(0, m_text.find_first_not_of(OrEmpty(targets)));
+        return *this;
+    }
+    CStringT& TrimRight()
+    {
+        while (!m_text.empty() && Traits::IsBlank(m_text.back()))
+            m_text.pop_back();
+        return *this;
+    }
+    CStringT& TrimRight(Char target) { return TrimRight(CStringT(target).GetString()); }
+    CStringT& TrimRight(const Char* targets)
+    {
+        m_text.erase(m_text.find_last_not_of(OrEmpty(targets)) + 1); // nothing found is one before the first
+        return *this;
+    }
+    CStringT& Trim() { return TrimRight().TrimLeft(); }
+    CStringT& Trim(Char target) { return TrimRight(target).TrimLeft(target); }
+    CStringT& Trim(const Char* targets) { return TrimRight(targets).TrimLeft(targets); }
+
+    /// How many were replaced.
+    int Replace(Char old, Char replacement)
+    {
+        int count = 0;
+        for (Char& character : m_text)
+            if (character == old && old != replacement) {
+                character = replacement;
+                ++count;
+            }
+        return count;
+    }
+    int Replace(const Char* old, const Char* replacement)
+    {
+        const Text target = OrEmpty(old);
+        const Text put = OrEmpty(replacement);
+        int count = 0;
+        if (target.empty())
+            return count;
+        for (size_t at = m_text.find(target); at != Text::npos; at = m_text.find(target, at + put.size())) {
+            m_text.replace(at, target.size(), put);
+            ++count;
+        }
+        return count;
+    }
+    /// How many were removed.
+    int Remove(Char character) { return static_cast<int>(std::erase(m_text, character)); }
+    /// The length afterwards. Whatever lies outside of the text is left out.
+    int Delete(int index, int count = 1)
+    {
+        if (index < GetLength())
+            m_text.erase(Count(index), Count(count));
+        return GetLength();
+    }
+    /// The length afterwards. Beyond its end the text is added to.
+    int Insert(int index, Char character)
+    {
+        m_text.insert(Within(index), 1, character);
+        return GetLength();
+    }
+    int Insert(int index, const Char* text)
+    {
+        m_text.insert(Within(index), OrEmpty(text));
+        return GetLength();
+    }
+
+    /// The next part, from `start` on, between any of the delimiters; `start` then stands behind it. The empty text,
+    /// and `start` -1, where there is none.
+    CStringT Tokenize(const Char* delimiters, int& start) const
+    {
+        const Text marks = OrEmpty(delimiters);
+        const size_t first = start < 0 ? Text::npos : m_text.find_first_not_of(marks, Count(start));
+        CStringT token;
+        if (first == Text::npos) {
+            start = -1;
+            return token;
+        }
+        token.m_text = m_text.substr(first, m_text.find_first_of(marks, first) - first);
+        start = static_cast<int>(first + token.m_text.size()) + 1;
+        return token;
+    }
+
     /// Loads a string resource through the resource chain. FALSE, and the empty text, where there is none.
     int LoadString(unsigned int id)
     {
@@ -124,16 +244,17 @@ public:
     {
         va_list arguments;
         va_start(arguments, format);
-        va_list measured;
-        va_copy(measured, arguments);
-        const int length = Traits::FormattedLength(format, measured);
-        va_end(measured);
-        Text text(Count(length) + 1, Char{});
-        if (length > 0)
-            Traits::Print(text.data(), text.size(), format, arguments);
+        FormatV(format, arguments);
         va_end(arguments);
-        text.resize(Count(length));
-        m_text = text;
+    }
+    void FormatV(const Char* format, va_list arguments) { m_text = Formatted(format, arguments); }
+    /// Adds to the text what Format would replace it by.
+    void AppendFormat(const Char* format, ...)
+    {
+        va_list arguments;
+        va_start(arguments, format);
+        m_text += Formatted(format, arguments);
+        va_end(arguments);
     }
 
     /// Room for `length` characters that the caller fills and then hands back with ReleaseBuffer.
@@ -178,6 +299,19 @@ private:
         static const Char empty{};
         return text ? text : &empty;
     }
+    static Text Formatted(const Char* format, va_list arguments)
+    {
+        va_list measured;
+        va_copy(measured, arguments);
+        const int length = Traits::FormattedLength(format, measured);
+        va_end(measured);
+        Text text(Count(length) + 1, Char{});
+        if (length > 0)
+            Traits::Print(text.data(), text.size(), format, arguments);
+        text.resize(Count(length));
+        return text;
+    }
+    size_t Within(int index) const { return Count(index < GetLength() ? index : GetLength()); }
     static size_t Count(int count) { return count < 0 ? 0 : static_cast<size_t>(count); }
     static int Position(size_t found) { return found == Text::npos ? -1 : static_cast<int>(found); }
 

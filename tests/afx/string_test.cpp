@@ -164,4 +164,75 @@ TEST(String, IsACopyOfItsOwn)
     EXPECT_STREQ(L"one!", second);
 }
 
+TEST(String, TrimsWhiteSpaceOrTheGivenCharacters)
+{
+    EXPECT_STREQ(L"a b", CString(L" \t\na b \r\n").Trim());
+    EXPECT_STREQ(L"a ", CString(L"  a ").TrimLeft());
+    EXPECT_STREQ(L"  a", CString(L"  a ").TrimRight());
+    EXPECT_STREQ(L"", CString(L"   ").Trim());
+    EXPECT_STREQ(L"", CString(L"   ").TrimLeft());
+    EXPECT_STREQ(L"1", CString(L"0010").Trim(L'0'));
+    EXPECT_STREQ(L"10", CString(L"0010").TrimLeft(L'0'));
+    EXPECT_STREQ(L"001", CString(L"0010").TrimRight(L'0'));
+    EXPECT_STREQ(L"b", CString(L"{[b]}").Trim(L"{}[]"));
+    EXPECT_STREQ(L"b]}", CString(L"{[b]}").TrimLeft(L"[{"));
+    EXPECT_STREQ(L"", CString(L"{}").TrimRight(L"{}"));
+    EXPECT_STREQ(L"", CString().Trim());
+    EXPECT_STREQ("x", CStringA(" x\t").Trim());
+}
+
+TEST(String, ReplacesEachPlaceOnce)
+{
+    CString text(L"1,5;2,5");
+    EXPECT_EQ(2, text.Replace(L',', L'.'));
+    EXPECT_STREQ(L"1.5;2.5", text);
+    EXPECT_EQ(2, text.Replace(L".5", L".5.5"));
+    EXPECT_STREQ(L"1.5.5;2.5.5", text);
+    EXPECT_EQ(4, text.Replace(L".5", L""));
+    EXPECT_STREQ(L"1;2", text);
+    EXPECT_EQ(0, text.Replace(L"", L"x"));
+    EXPECT_EQ(0, text.Replace(L"7", L"x"));
+    EXPECT_EQ(1, text.Replace(L"1", nullptr));
+    EXPECT_STREQ(L";2", text);
+}
+
+TEST(String, IsTakenApartAtDelimiters)
+{
+    const CString text(L",;шаг;, глубина,,");
+    int at = 0;
+    EXPECT_STREQ(L"шаг", text.Tokenize(L",;", at));
+    EXPECT_STREQ(L" глубина", text.Tokenize(L",;", at));
+    EXPECT_STREQ(L"", text.Tokenize(L",;", at));
+    EXPECT_EQ(-1, at);
+    EXPECT_STREQ(L"", text.Tokenize(L",;", at));
+    at = 0;
+    EXPECT_STREQ(L"a", CString(L"a").Tokenize(L",", at));
+    EXPECT_EQ(2, at);
+    EXPECT_STREQ(L"", CString(L"a").Tokenize(L",", at));
+    EXPECT_EQ(-1, at);
+    at = 1;
+    EXPECT_STREQ(L"bc", CString(L"abc").Tokenize(L"", at));
+}
+
+TEST(String, IsChangedWithinItsBounds)
+{
+    CString text(L"abc");
+    text.SetAt(1, L'x');
+    text.SetAt(3, L'x');
+    text.SetAt(-1, L'x');
+    EXPECT_STREQ(L"axc", text);
+    EXPECT_EQ(4, text.Insert(0, L'<'));
+    EXPECT_EQ(6, text.Insert(99, L">>"));
+    EXPECT_STREQ(L"<axc>>", text);
+    EXPECT_EQ(5, text.Delete(0));
+    EXPECT_EQ(3, text.Delete(3, 99));
+    EXPECT_EQ(3, text.Delete(99));
+    EXPECT_STREQ(L"axc", text);
+    EXPECT_EQ(1, text.Remove(L'x'));
+    EXPECT_STREQ(L"ca", text.MakeReverse());
+    EXPECT_STREQ(L"ca!?", text.Append(L"!").AppendChar(L'?'));
+    EXPECT_EQ(2, text.FindOneOf(L"?!"));
+    EXPECT_EQ(-1, text.FindOneOf(L"xy"));
+}
+
 } // namespace

@@ -107,4 +107,19 @@ TEST(String, LoadsANarrowResourceAsFarAsTheCodePageGoes)
     EXPECT_STREQ(IsCyrillicCodePage() ? "\xC7\xE0\xE3\xEE\xEB\xEE\xE2\xEE\xEA" : "?????????", text);
 }
 
+TEST(String, TurnsRussianTextToLowerCase)
+{
+    EXPECT_STREQ(L"шаг abc", CString(L"ШАГ Abc").MakeLower());
+}
+
+TEST(String, AddsFormattedText)
+{
+    CString text(L"Шаг");
+    text.AppendFormat(L" %d", 5);
+    text.AppendFormat(L" (%s)", text.GetString());
+    EXPECT_STREQ(L"Шаг 5 (Шаг 5)", text);
+    text.AppendFormat(L"%s", L"");
+    EXPECT_STREQ(L"Шаг 5 (Шаг 5)", text);
+}
+
 } // namespace
