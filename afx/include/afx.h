@@ -7,6 +7,28 @@
 
 class CObject;
 
+// ---- diagnostics: where _DEBUG is defined. Elsewhere they are nothing, but for VERIFY, which still does its work ----
+
+#ifdef _DEBUG
+/// Tells the user of an assertion that has failed. TRUE where he wants the debugger; the program ends where he says so.
+AFX_CLASS BOOL AfxAssertFailedLine(LPCSTR file, int line);
+/// Writes a printf-style text for the debugger.
+AFX_CLASS void AfxTrace(LPCSTR format, ...);
+AFX_CLASS void AfxTrace(LPCWSTR format, ...);
+
+#define ASSERT(expression)                                                                                             \
+    ((expression) || !AfxAssertFailedLine(__FILE__, __LINE__) ? static_cast<void>(0) : DebugBreak())
+#define VERIFY(expression) ASSERT(expression)
+#define TRACE(...) AfxTrace(__VA_ARGS__)
+#else
+#define ASSERT(expression) static_cast<void>(0)
+#define VERIFY(expression) static_cast<void>(expression)
+#define TRACE(...) static_cast<void>(0)
+#endif
+
+/// What sources put in the place of `new` for debugging. Nothing is kept of who took which memory.
+#define DEBUG_NEW new
+
 /// A place in a list that is gone through; null at the end.
 struct __POSITION {};
 using POSITION = __POSITION*;
@@ -42,6 +64,19 @@ public:
     virtual CRuntimeClass* GetRuntimeClass() const;
     BOOL IsKindOf(const CRuntimeClass* runtimeClass) const;
 };
+
+/// The object as one of the class: null where it is none, or null itself.
+AFX_CLASS CObject* AfxDynamicDownCast(CRuntimeClass* runtimeClass, CObject* object);
+#define DYNAMIC_DOWNCAST(class_name, object)                                                                           \
+    (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
+/// The same, asserted where _DEBUG is defined and taken for granted elsewhere.
+#ifdef _DEBUG
+AFX_CLASS CObject* AfxStaticDownCast(CRuntimeClass* runtimeClass, CObject* object);
+#define STATIC_DOWNCAST(class_name, object)                                                                            \
+    (static_cast<class_name*>(AfxStaticDownCast(RUNTIME_CLASS(class_name), object)))
+#else
+#define STATIC_DOWNCAST(class_name, object) (static_cast<class_name*>(object))
+#endif
 
 #define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
 

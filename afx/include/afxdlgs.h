@@ -23,7 +23,8 @@ public:
     /// `caption` 0 takes the tab's text from the template.
     explicit CPropertyPage(UINT templateId, UINT caption = 0);
 
-    /// Adjust before the sheet is shown. The template is looked for in m_psp.hInstance, then through the chain.
+    /// Adjust before the sheet is shown. The template is looked for in m_psp.hInstance, then through the chain; with
+    /// PSP_DLGINDIRECT it is the one at m_psp.pResource, which stays the caller's. The page takes the sheet's font.
     PROPSHEETPAGEW m_psp{};
 
     /// Tells the sheet that this page has something to apply (TRUE) or no longer has (FALSE).
@@ -45,9 +46,11 @@ protected:
 private:
     friend class CPropertySheet;
     bool Prepare(CPropertySheet& sheet, PROPSHEETPAGEW& page);
+    const DLGTEMPLATE* FindTemplate(PROPSHEETPAGEW& page) const;
     static UINT CALLBACK PageCallback(HWND window, UINT message, PROPSHEETPAGEW* page);
 
     CString m_caption;
+    std::vector<BYTE> m_template;      ///< the page's own in the font of the sheet, where that differs
     CPropertySheet* m_sheet = nullptr; ///< while it shows this page
     bool m_activatedBefore = false;
 };
@@ -60,11 +63,18 @@ public:
 
     PROPSHEETHEADERW m_psh{}; ///< adjust before the sheet is shown
 
-    void AddPage(CPropertyPage* page); ///< each page once
+    /// Each page once. Into a sheet that is shown it comes as the last tab, unless it has no template.
+    void AddPage(CPropertyPage* page);
+    void RemovePage(CPropertyPage* page);
+    void RemovePage(int index);
     int GetPageCount() const;
-    CPropertyPage* GetPage(int index) const; ///< null where there is none
+    CPropertyPage* GetPage(int index) const;           ///< null where there is none
+    int GetPageIndex(const CPropertyPage* page) const; ///< -1 for a page that is not of this sheet
+    // Before the sheet is shown these choose, and tell, the page that it is to start with.
     CPropertyPage* GetActivePage() const;
+    int GetActiveIndex() const;
     BOOL SetActivePage(int index);
+    BOOL SetActivePage(CPropertyPage* page);
     void PressButton(int button); ///< one of PSBTN_OK, PSBTN_CANCEL, PSBTN_APPLYNOW, PSBTN_HELP
     CTabCtrl* GetTabControl() const;
 
@@ -81,6 +91,7 @@ protected:
 
 private:
     INT_PTR Show(HWND owner);
+    bool ShowTab(CPropertyPage& page);
 
     CString m_caption;
     CWnd* m_parent;

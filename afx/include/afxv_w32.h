@@ -9,6 +9,8 @@
 
 #include <windows.h>
 
+#include <tchar.h>
+
 #ifdef AFX_IMPLEMENTATION
 #define AFX_CLASS __declspec(dllexport)
 #else

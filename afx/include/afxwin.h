@@ -10,6 +10,7 @@
 
 class CCmdTarget;
 class CDataExchange;
+class CMenu;
 class CWnd;
 
 struct CSize : SIZE {
@@ -118,6 +119,50 @@ protected:
     const AFX_MSGMAP_ENTRY* FindEntry(UINT message, UINT code, UINT id) const;
 };
 
+/// A menu. The object destroys it, unless it is a temporary one for a menu that belongs to another.
+class AFX_CLASS CMenu : public CObject {
+    DECLARE_DYNAMIC(CMenu)
+public:
+    CMenu() = default;
+    ~CMenu() override;
+
+    HMENU m_hMenu = nullptr;
+    operator HMENU() const { return m_hMenu; }
+    HMENU GetSafeHmenu() const { return m_hMenu; }
+    /// The object that stands for a menu: its own where it has one, else a temporary one, which lives as long as
+    /// those of CWnd::FromHandle. Null for null.
+    static CMenu* FromHandle(HMENU menu);
+    BOOL Attach(HMENU menu);
+    HMENU Detach();
+
+    BOOL CreateMenu();
+    BOOL CreatePopupMenu();
+    BOOL LoadMenu(UINT id); ///< through the resource chain
+    BOOL LoadMenu(LPCTSTR name);
+    BOOL DestroyMenu();
+
+    /// `id`: with MF_POPUP the handle of the menu that opens there.
+    BOOL AppendMenu(UINT flags, UINT_PTR id = 0, LPCTSTR text = nullptr);
+    BOOL InsertMenu(UINT position, UINT flags, UINT_PTR id = 0, LPCTSTR text = nullptr);
+    BOOL ModifyMenu(UINT position, UINT flags, UINT_PTR id = 0, LPCTSTR text = nullptr);
+    BOOL RemoveMenu(UINT position, UINT flags); ///< a menu that opens there stays for who has its handle
+    BOOL DeleteMenu(UINT position, UINT flags);
+    UINT GetMenuItemCount() const;
+    UINT GetMenuItemID(int position) const;
+    UINT GetMenuState(UINT id, UINT flags) const;
+    int GetMenuString(UINT id, CString& text, UINT flags) const;
+    CMenu* GetSubMenu(int position) const;
+    UINT EnableMenuItem(UINT id, UINT flags);
+    DWORD CheckMenuItem(UINT id, UINT flags);
+    BOOL CheckMenuRadioItem(UINT firstId, UINT lastId, UINT id, UINT flags);
+    BOOL SetDefaultItem(UINT id, BOOL byPosition = FALSE);
+    /// Opens the menu there; `window` receives the command. The command itself where `flags` holds TPM_RETURNCMD.
+    BOOL TrackPopupMenu(UINT flags, int x, int y, CWnd* window, const RECT* rect = nullptr);
+
+private:
+    bool m_isTemporary = false;
+};
+
 // ---- windows -----------------------------------------------------------------------------------------------
 
 /// A window. The C++ object and the window have lives of their own: an object can exist before its window does and
@@ -160,6 +205,10 @@ public:
     CWnd* GetWindow(UINT relation) const;
     CWnd* GetTopLevelParent() const; ///< the outermost of the parents and owners, the window itself without any
     static CWnd* GetFocus();
+    CMenu* GetMenu() const; ///< null where the window has none
+    BOOL SetMenu(CMenu* menu);
+    CMenu* GetSystemMenu(BOOL revert) const;
+    void DrawMenuBar();
     static CWnd* GetDesktopWindow();
     BOOL IsChild(const CWnd* window) const;
     void CheckDlgButton(int id, UINT check) const;
@@ -314,21 +363,72 @@ class AFX_CLASS CEdit : public CWnd {
 public:
     void LimitText(int characters = 0);
     void SetSel(int start, int end, BOOL noScroll = FALSE);
+    void GetSel(int& start, int& end) const;
+    void ReplaceSel(LPCTSTR text, BOOL canUndo = FALSE);
+    BOOL SetReadOnly(BOOL readOnly = TRUE);
+    BOOL GetModify() const;
+    void SetModify(BOOL modified = TRUE);
 };
 
 class AFX_CLASS CComboBox : public CWnd {
     DECLARE_DYNAMIC(CComboBox)
 public:
+    virtual BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+
+    // ---- its items: indexes count from 0; CB_ERR (-1) stands for none ----
+
     int GetCount() const;
-    int GetCurSel() const; ///< -1 when nothing is selected
-    int SetCurSel(int index);
     int AddString(LPCTSTR text);
+    int InsertString(int index, LPCTSTR text); ///< at the end for -1; never sorted in
+    int DeleteString(int index);               ///< how many are left
     void ResetContent();
+    int Dir(UINT attributes, LPCTSTR pattern);
     void GetLBText(int index, CString& text) const; ///< the empty text where there is no such item
+    int GetLBText(int index, LPTSTR text) const;    ///< into room for GetLBTextLen characters and the terminator
+    int GetLBTextLen(int index) const;
     DWORD_PTR GetItemData(int index) const;
     int SetItemData(int index, DWORD_PTR data);
+    void* GetItemDataPtr(int index) const;
+    int SetItemDataPtr(int index, void* data);
+    /// The first item after `start`, and around the end, that begins with the text.
+    int FindString(int start, LPCTSTR text) const;
     int FindStringExact(int start, LPCTSTR text) const;
-    int Dir(UINT attributes, LPCTSTR pattern);
+    int InitStorage(int items, UINT bytes);
+
+    // ---- what is chosen ----
+
+    int GetCurSel() const; ///< -1 when nothing is selected
+    int SetCurSel(int index);
+    int SelectString(int start, LPCTSTR text);
+
+    // ---- its edit ----
+
+    BOOL LimitText(int characters);
+    DWORD GetEditSel() const; ///< the start in the low word, the end in the high one
+    BOOL SetEditSel(int start, int end);
+    void Clear();
+    void Copy();
+    void Cut();
+    void Paste();
+
+    // ---- its list ----
+
+    void ShowDropDown(BOOL show = TRUE);
+    BOOL GetDroppedState() const;
+    void GetDroppedControlRect(RECT* rect) const;
+    int GetDroppedWidth() const;
+    int SetDroppedWidth(UINT width);    ///< at least so wide; the width that it has then
+    int GetItemHeight(int index) const; ///< of the edit for -1
+    int SetItemHeight(int index, UINT height);
+    int GetTopIndex() const;
+    int SetTopIndex(int index);
+    UINT GetHorizontalExtent() const;
+    void SetHorizontalExtent(UINT width);
+    BOOL GetExtendedUI() const;
+    int SetExtendedUI(BOOL extended = TRUE); ///< the list drops by the down key
+    BOOL GetComboBoxInfo(COMBOBOXINFO* info) const;
+    LCID GetLocale() const;
+    LCID SetLocale(LCID locale); ///< the one by which texts are sorted; the locale before
 };
 
 class AFX_CLASS CListBox : public CWnd {
@@ -338,6 +438,11 @@ public:
     int GetCurSel() const;
     int SetCurSel(int index);
     int AddString(LPCTSTR text);
+    int InsertString(int index, LPCTSTR text);
+    int DeleteString(UINT index);
+    void ResetContent();
+    void GetText(int index, CString& text) const; ///< the empty text where there is no such item
+    int FindStringExact(int start, LPCTSTR text) const;
     DWORD_PTR GetItemData(int index) const;
     int SetItemData(int index, DWORD_PTR data);
 };
@@ -380,9 +485,11 @@ private:
 class AFX_CLASS CFrameWnd : public CWnd {
     DECLARE_DYNAMIC(CFrameWnd)
 public:
-    /// FALSE where the window cannot be created or the menu is not found in the resource chain.
-    BOOL Create(LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect, CWnd* parent = nullptr,
-                LPCTSTR menuName = nullptr);
+    static const CRect rectDefault; ///< wherever the system puts a window
+    /// `className` null stands for a window with the arrow cursor and the background of windows. FALSE where the window
+    /// cannot be created or the menu is not found in the resource chain.
+    BOOL Create(LPCTSTR className, LPCTSTR windowName, DWORD style = WS_OVERLAPPEDWINDOW,
+                const RECT& rect = rectDefault, CWnd* parent = nullptr, LPCTSTR menuName = nullptr, DWORD exStyle = 0);
 
 protected:
     void PostNcDestroy() override;
@@ -409,8 +516,19 @@ public:
     [[noreturn]] void Fail();
 };
 
-/// Saving, a text that is no whole number of 32 bits is refused with AFX_IDP_PARSE_INT.
+// Numbers as texts. Saving, a text that is none, or one that the type cannot hold, is refused with the prompt of the
+// type: AFX_IDP_PARSE_INT, AFX_IDP_PARSE_UINT for the types without a sign, AFX_IDP_PARSE_BYTE, AFX_IDP_PARSE_REAL.
+AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, BYTE& value);
+AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, short& value);
 AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, int& value);
+AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, UINT& value);
+AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, long& value);
+AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, DWORD& value);
+AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, LONGLONG& value);
+AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, ULONGLONG& value);
+/// Shown with as many digits as the type is sure of: 6 and 15.
+AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, float& value);
+AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, double& value);
 AFX_CLASS void DDX_Text(CDataExchange* exchange, int id, CString& value);
 /// A value that is no check state shows as off.
 AFX_CLASS void DDX_Check(CDataExchange* exchange, int id, int& value);
@@ -419,8 +537,30 @@ AFX_CLASS void DDX_Check(CDataExchange* exchange, int id, int& value);
 AFX_CLASS void DDX_Radio(CDataExchange* exchange, int id, int& value);
 /// Nothing is selected for an index that the list does not have.
 AFX_CLASS void DDX_CBIndex(CDataExchange* exchange, int id, int& index);
+AFX_CLASS void DDX_LBIndex(CDataExchange* exchange, int id, int& index);
+/// The selected item's text, empty without one; loading selects the first item that begins with the text.
+AFX_CLASS void DDX_LBString(CDataExchange* exchange, int id, CString& value);
+AFX_CLASS void DDX_LBStringExact(CDataExchange* exchange, int id, CString& value); ///< the item of just that text
+/// The text of a combo box's edit or selection; where no item begins with it, it is put into the edit.
+AFX_CLASS void DDX_CBString(CDataExchange* exchange, int id, CString& value);
+AFX_CLASS void DDX_CBStringExact(CDataExchange* exchange, int id, CString& value);
 /// Makes `control` the object of the dialog's control, unless it has a window already.
 AFX_CLASS void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
+
+// Checks of the value that has just been exchanged. Saving, one out of bounds (both allowed) is refused with
+// AFX_IDP_PARSE_INT_RANGE or AFX_IDP_PARSE_REAL_RANGE.
+AFX_CLASS void DDV_MinMaxByte(CDataExchange* exchange, BYTE value, BYTE low, BYTE high);
+AFX_CLASS void DDV_MinMaxShort(CDataExchange* exchange, short value, short low, short high);
+AFX_CLASS void DDV_MinMaxInt(CDataExchange* exchange, int value, int low, int high);
+AFX_CLASS void DDV_MinMaxLong(CDataExchange* exchange, long value, long low, long high);
+AFX_CLASS void DDV_MinMaxUInt(CDataExchange* exchange, UINT value, UINT low, UINT high);
+AFX_CLASS void DDV_MinMaxDWord(CDataExchange* exchange, const DWORD& value, DWORD low, DWORD high);
+AFX_CLASS void DDV_MinMaxLongLong(CDataExchange* exchange, LONGLONG value, LONGLONG low, LONGLONG high);
+AFX_CLASS void DDV_MinMaxULongLong(CDataExchange* exchange, ULONGLONG value, ULONGLONG low, ULONGLONG high);
+AFX_CLASS void DDV_MinMaxFloat(CDataExchange* exchange, const float& value, float low, float high);
+AFX_CLASS void DDV_MinMaxDouble(CDataExchange* exchange, const double& value, double low, double high);
+/// Loading limits what can be typed into the edit; saving, a longer text is refused with AFX_IDP_PARSE_STRING_SIZE.
+AFX_CLASS void DDV_MaxChars(CDataExchange* exchange, const CString& value, int count);
 
 // ---- the application ---------------------------------------------------------------------------------------
 
@@ -457,7 +597,8 @@ AFX_CLASS int AfxWinMain(HINSTANCE instance, HINSTANCE previous, LPTSTR commandL
 /// Message boxes. Without an icon in `type` they bear the exclamation mark, or the question mark for Yes/No.
 AFX_CLASS int AfxMessageBox(LPCTSTR text, UINT type = MB_OK, UINT helpId = 0);
 AFX_CLASS int AfxMessageBox(UINT promptId, UINT type = MB_OK, UINT helpId = static_cast<UINT>(-1));
-/// Replaces %1 and %2 of a string resource.
+/// Replaces %1, or %1 and %2, of a string resource.
+AFX_CLASS void AfxFormatString1(CString& result, UINT id, LPCTSTR first);
 AFX_CLASS void AfxFormatString2(CString& result, UINT id, LPCTSTR first, LPCTSTR second);
 
 // ---- resources ---------------------------------------------------------------------------------------------

@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <initializer_list>
+
 IMPLEMENT_DYNAMIC(CWinApp, CCmdTarget)
 
 CWinApp::CWinApp(LPCTSTR name) : m_pszAppName(name), m_hInstance(GetModuleHandle(nullptr))
@@ -127,18 +129,31 @@ int AfxMessageBox(UINT promptId, UINT type, UINT helpId)
     return AfxMessageBox(text, type, helpId == static_cast<UINT>(-1) ? promptId : helpId);
 }
 
-void AfxFormatString2(CString& result, UINT id, LPCTSTR first, LPCTSTR second)
+namespace {
+/// Replaces %1, %2 and so on by the texts that there are.
+void FormatWith(CString& result, UINT id, std::initializer_list<LPCTSTR> texts)
 {
     std::wstring format;
     AfxLoadText(id, format);
     result.Empty();
     for (size_t at = 0; at < format.size(); ++at) {
         const wchar_t next = at + 1 < format.size() ? format[at + 1] : L'\0';
-        if (format[at] == L'%' && (next == L'1' || next == L'2')) {
-            result += next == L'1' ? first : second;
+        if (format[at] == L'%' && next >= L'1' && next < L'1' + static_cast<int>(texts.size())) {
+            result += texts.begin()[next - L'1'];
             ++at;
         } else {
             result += format[at];
         }
     }
+}
+} // namespace
+
+void AfxFormatString1(CString& result, UINT id, LPCTSTR first)
+{
+    FormatWith(result, id, {first});
+}
+
+void AfxFormatString2(CString& result, UINT id, LPCTSTR first, LPCTSTR second)
+{
+    FormatWith(result, id, {first, second});
 }

@@ -13,14 +13,11 @@ INT_PTR CALLBACK DialogProc(HWND, UINT, WPARAM, LPARAM)
     return FALSE;
 }
 
-/// A dialog template in memory, valid as long as its module is loaded; null where the chain holds none.
+/// Null where the chain holds none.
 const DLGTEMPLATE* FindTemplate(UINT id)
 {
     const LPCTSTR name = MAKEINTRESOURCE(id);
-    const HINSTANCE module = AfxFindResourceHandle(name, RT_DIALOG);
-    const HRSRC resource = FindResource(module, name, RT_DIALOG);
-    const HGLOBAL loaded = resource ? LoadResource(module, resource) : nullptr;
-    return loaded ? static_cast<const DLGTEMPLATE*>(LockResource(loaded)) : nullptr;
+    return AfxLoadTemplate(AfxFindResourceHandle(name, RT_DIALOG), name);
 }
 } // namespace
 
@@ -138,13 +135,18 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
+const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
+
 BOOL CFrameWnd::Create(LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect, CWnd* parent,
-                       LPCTSTR menuName)
+                       LPCTSTR menuName, DWORD exStyle)
 {
     HMENU menu = nullptr;
     if (menuName && !(menu = LoadMenu(AfxFindResourceHandle(menuName, RT_MENU), menuName)))
         return FALSE;
-    if (!CreateEx(0, className, windowName, style, rect, parent, 0)) {
+    if (!className)
+        className = AfxRegisterWndClass(CS_DBLCLKS, LoadCursor(nullptr, IDC_ARROW),
+                                        reinterpret_cast<HBRUSH>(UINT_PTR{COLOR_WINDOW + 1}));
+    if (!CreateEx(exStyle, className, windowName, style, rect, parent, 0)) {
         DestroyMenu(menu);
         return FALSE;
     }

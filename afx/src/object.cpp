@@ -1,5 +1,13 @@
+// Objects with run-time classes, diagnostics, exceptions, and texts of the other width.
+
+// What sources that are built for debugging call is here for all.
+#ifndef _DEBUG
+#define _DEBUG
+#endif
+
 #include <afx.h>
 
+#include <cstdlib>
 #include <new>
 
 CObject* CRuntimeClass::CreateObject() const
@@ -29,6 +37,48 @@ CRuntimeClass* CObject::GetRuntimeClass() const
 BOOL CObject::IsKindOf(const CRuntimeClass* runtimeClass) const
 {
     return GetRuntimeClass()->IsDerivedFrom(runtimeClass);
+}
+
+CObject* AfxDynamicDownCast(CRuntimeClass* runtimeClass, CObject* object)
+{
+    return object && object->IsKindOf(runtimeClass) ? object : nullptr;
+}
+
+CObject* AfxStaticDownCast(CRuntimeClass* runtimeClass, CObject* object)
+{
+    ASSERT(!object || object->IsKindOf(runtimeClass));
+    return object;
+}
+
+BOOL AfxAssertFailedLine(LPCSTR file, int line)
+{
+    CStringA text;
+    text.Format("Assertion failed in file %s in line %d.", file, line);
+    const int answer =
+        MessageBoxA(nullptr, text, "Assertion Failed!", MB_TASKMODAL | MB_ICONHAND | MB_ABORTRETRYIGNORE);
+    if (answer == IDABORT)
+        std::_Exit(3);
+    return answer == IDRETRY;
+}
+
+void AfxTrace(LPCSTR format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    CStringA text;
+    text.FormatV(format, arguments);
+    va_end(arguments);
+    OutputDebugStringA(text);
+}
+
+void AfxTrace(LPCWSTR format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    CStringW text;
+    text.FormatV(format, arguments);
+    va_end(arguments);
+    OutputDebugStringW(text);
 }
 
 void* CObject::operator new(size_t size)

@@ -29,21 +29,50 @@ CPropertyPage::CPropertyPage(UINT templateId, UINT caption) : CDialog(templateId
         m_psp.dwFlags |= PSP_USETITLE;
 }
 
-/// Makes the page as the system wants it, with the template's module filled in. False where it cannot be shown: it
-/// is shown already, or has no template.
+namespace {
+/// The font of the sheet itself, in which it also reckons how large its pages are. Empty where it cannot be told.
+AfxDialogFont FontOfSheets()
+{
+    constexpr WORD kSheet = 1006; // the template of sheets in the system's library
+    const DLGTEMPLATE* const sheet = AfxLoadTemplate(GetModuleHandle(L"comctl32.dll"), MAKEINTRESOURCE(kSheet));
+    return sheet ? AfxFontOf(*sheet) : AfxDialogFont{};
+}
+} // namespace
+
+/// Makes the page as the system wants it, with the template filled in. False where it cannot be shown: it is shown
+/// already, or has no template.
 bool CPropertyPage::Prepare(CPropertySheet& sheet, PROPSHEETPAGEW& page)
 {
     if (m_hWnd)
         return false;
     page = m_psp;
-    if (!FindResource(page.hInstance, page.pszTemplate, RT_DIALOG))
-        page.hInstance = AfxFindResourceHandle(page.pszTemplate, RT_DIALOG);
     if (!m_caption.IsEmpty())
         page.pszTitle = m_caption;
     page.lParam = reinterpret_cast<LPARAM>(this);
+    const DLGTEMPLATE* const pageTemplate = FindTemplate(page);
+    if (!pageTemplate)
+        return false;
+    // In another font than the sheet's a page would be cut, or lost in its place.
+    const AfxDialogFont font = FontOfSheets();
+    const AfxDialogFont own = AfxFontOf(*pageTemplate);
+    if (!font.face.empty() && (font.face != own.face || font.points != own.points)) {
+        m_template = AfxTemplateWithFont(*pageTemplate, font);
+        page.dwFlags |= PSP_DLGINDIRECT;
+        page.pResource = reinterpret_cast<const DLGTEMPLATE*>(m_template.data());
+    }
     m_sheet = &sheet;
     m_activatedBefore = false;
-    return FindResource(page.hInstance, page.pszTemplate, RT_DIALOG) != nullptr;
+    return true;
+}
+
+/// Looks into the page's own module first and fills in the one that holds the template.
+const DLGTEMPLATE* CPropertyPage::FindTemplate(PROPSHEETPAGEW& page) const
+{
+    if (page.dwFlags & PSP_DLGINDIRECT)
+        return page.pResource;
+    if (!FindResource(page.hInstance, page.pszTemplate, RT_DIALOG))
+        page.hInstance = AfxFindResourceHandle(page.pszTemplate, RT_DIALOG);
+    return AfxLoadTemplate(page.hInstance, page.pszTemplate);
 }
 
 UINT CALLBACK CPropertyPage::PageCallback(HWND, UINT message, PROPSHEETPAGEW* page)
@@ -144,8 +173,46 @@ CPropertySheet::CPropertySheet(LPCTSTR caption, CWnd* parent, UINT firstPage) : 
 
 void CPropertySheet::AddPage(CPropertyPage* page)
 {
-    if (std::find(m_pages.begin(), m_pages.end(), page) == m_pages.end())
+    if (GetPageIndex(page) < 0 && (!m_hWnd || ShowTab(*page)))
         m_pages.push_back(page);
+}
+
+/// Adds a page to the sheet that is shown. False where the page cannot be shown.
+bool CPropertySheet::ShowTab(CPropertyPage& page)
+{
+    PROPSHEETPAGEW prepared{};
+    if (!page.Prepare(*this, prepared))
+        return false;
+    const HPROPSHEETPAGE handle = CreatePropertySheetPageW(&prepared);
+    if (handle && SendMessage(PSM_ADDPAGE, 0, reinterpret_cast<LPARAM>(handle)))
+        return true;
+    if (handle)
+        DestroyPropertySheetPage(handle);
+    page.m_sheet = nullptr;
+    return false;
+}
+
+void CPropertySheet::RemovePage(CPropertyPage* page)
+{
+    RemovePage(GetPageIndex(page));
+}
+
+void CPropertySheet::RemovePage(int index)
+{
+    CPropertyPage* const page = GetPage(index);
+    if (!page)
+        return;
+    if (m_hWnd)
+        SendMessage(PSM_REMOVEPAGE, static_cast<WPARAM>(index));
+    m_pages.erase(m_pages.begin() + index);
+    if (page->m_sheet == this)
+        page->m_sheet = nullptr;
+}
+
+int CPropertySheet::GetPageIndex(const CPropertyPage* page) const
+{
+    const auto found = std::find(m_pages.begin(), m_pages.end(), page);
+    return found == m_pages.end() ? -1 : static_cast<int>(found - m_pages.begin());
 }
 
 int CPropertySheet::GetPageCount() const
@@ -160,6 +227,8 @@ CPropertyPage* CPropertySheet::GetPage(int index) const
 
 CPropertyPage* CPropertySheet::GetActivePage() const
 {
+    if (!m_hWnd)
+        return GetPage(GetActiveIndex());
     const auto window = reinterpret_cast<HWND>(SendMessage(PSM_GETCURRENTPAGEHWND));
     for (CPropertyPage* page : m_pages)
         if (page->m_hWnd && page->m_hWnd == window)
@@ -167,9 +236,24 @@ CPropertyPage* CPropertySheet::GetActivePage() const
     return nullptr;
 }
 
+int CPropertySheet::GetActiveIndex() const
+{
+    return m_hWnd ? GetTabControl()->GetCurSel() : static_cast<int>(m_psh.nStartPage);
+}
+
 BOOL CPropertySheet::SetActivePage(int index)
 {
-    return static_cast<BOOL>(SendMessage(PSM_SETCURSEL, static_cast<WPARAM>(index)));
+    if (m_hWnd)
+        return static_cast<BOOL>(SendMessage(PSM_SETCURSEL, static_cast<WPARAM>(index)));
+    if (!GetPage(index))
+        return FALSE;
+    m_psh.nStartPage = static_cast<UINT>(index);
+    return TRUE;
+}
+
+BOOL CPropertySheet::SetActivePage(CPropertyPage* page)
+{
+    return SetActivePage(GetPageIndex(page));
 }
 
 void CPropertySheet::PressButton(int button)

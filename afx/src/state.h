@@ -3,6 +3,9 @@
 
 #include <afxwin.h>
 
+#include <string>
+#include <vector>
+
 struct AfxState {
     HINSTANCE self = nullptr; ///< the framework's module
     CWinApp* application = nullptr;
@@ -25,10 +28,22 @@ void AfxStopAwaiting();
 
 /// Drops the temporary objects that CWnd::FromHandle made; to be called where no message is being processed.
 void AfxDropTemporaries();
+void AfxDropTemporaryMenus();
 
 /// The top-level window that a modal window of `parent` belongs to and returns to. Without a parent: the active
 /// window, else the main window's last pop-up, else none.
 HWND AfxModalOwner(const CWnd* parent);
+
+struct AfxDialogFont {
+    std::wstring face; ///< empty where a template names no font
+    WORD points = 0;
+};
+
+/// A dialog template, valid as long as its module is loaded; null where the module holds none of that name.
+const DLGTEMPLATE* AfxLoadTemplate(HINSTANCE module, LPCTSTR name);
+AfxDialogFont AfxFontOf(const DLGTEMPLATE& dialogTemplate);
+/// A copy of a template with another font.
+std::vector<BYTE> AfxTemplateWithFont(const DLGTEMPLATE& dialogTemplate, const AfxDialogFont& font);
 
 /// Whether a message is of keys or the mouse.
 bool AfxIsInput(const MSG& message);

@@ -74,8 +74,10 @@ public:
     MessageScope() { ++AfxGetState().messageDepth; }
     ~MessageScope()
     {
-        if (--AfxGetState().messageDepth == 0)
+        if (--AfxGetState().messageDepth == 0) {
             Temporaries().DropOfMessage();
+            AfxDropTemporaryMenus();
+        }
     }
     MessageScope(const MessageScope&) = delete;
     MessageScope& operator=(const MessageScope&) = delete;
@@ -143,6 +145,7 @@ CWnd* CWnd::FromHandle(HWND window)
 void AfxDropTemporaries()
 {
     Temporaries().DropAll();
+    AfxDropTemporaryMenus();
 }
 
 BOOL CWnd::Attach(HWND window)
@@ -234,9 +237,13 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD 
     if (m_hWnd)
         return FALSE;
     AfxAwaitWindow(this);
-    const HWND window = ::CreateWindowEx(
-        exStyle, className, windowName, style, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
-        parent ? parent->m_hWnd : nullptr, reinterpret_cast<HMENU>(UINT_PTR{id}), AfxGetInstanceHandle(), parameter);
+    // Where the system is to choose the place, it chooses the size too.
+    const bool isAnywhere = rect.left == CW_USEDEFAULT;
+    const int width = isAnywhere ? CW_USEDEFAULT : rect.right - rect.left;
+    const int height = isAnywhere ? CW_USEDEFAULT : rect.bottom - rect.top;
+    const HWND window = ::CreateWindowEx(exStyle, className, windowName, style, rect.left, rect.top, width, height,
+                                         parent ? parent->m_hWnd : nullptr, reinterpret_cast<HMENU>(UINT_PTR{id}),
+                                         AfxGetInstanceHandle(), parameter);
     AfxStopAwaiting();
     return window != nullptr;
 }
@@ -622,6 +629,26 @@ CWnd* CWnd::GetFocus()
 CWnd* CWnd::GetDesktopWindow()
 {
     return FromHandle(::GetDesktopWindow());
+}
+
+CMenu* CWnd::GetMenu() const
+{
+    return CMenu::FromHandle(::GetMenu(m_hWnd));
+}
+
+BOOL CWnd::SetMenu(CMenu* menu)
+{
+    return ::SetMenu(m_hWnd, menu ? menu->m_hMenu : nullptr);
+}
+
+CMenu* CWnd::GetSystemMenu(BOOL revert) const
+{
+    return CMenu::FromHandle(::GetSystemMenu(m_hWnd, revert));
+}
+
+void CWnd::DrawMenuBar()
+{
+    ::DrawMenuBar(m_hWnd);
 }
 
 BOOL CWnd::IsChild(const CWnd* window) const

@@ -267,6 +267,28 @@ TEST(Frame, IsNotCreatedWithoutTheMenuThatIsNamed)
     });
 }
 
+TEST(Frame, NeedsNoClassOfItsOwn)
+{
+    Log log;
+    OnUi([&] {
+        auto* const frame = new CTestFrame(log);
+        ASSERT_TRUE(frame->Create(nullptr, L"Главное"));
+        EXPECT_EQ(L"Главное", ui::TextOf(*frame));
+        EXPECT_TRUE(frame->GetStyle() & WS_THICKFRAME);
+        CRect client;
+        frame->GetClientRect(client);
+        EXPECT_FALSE(client.IsRectEmpty()) << "the system has chosen a size";
+        CEdit edit;
+        ASSERT_TRUE(edit.CreateEx(0, L"EDIT", L"поле", WS_CHILD | WS_VISIBLE, CRect(5, 5, 60, 25), frame, 7));
+        EXPECT_EQ(&edit, frame->GetDlgItem(7));
+        frame->ShowWindow(SW_SHOW);
+        EXPECT_TRUE(edit.IsWindowVisible());
+        EXPECT_EQ(LoadCursor(nullptr, IDC_ARROW), reinterpret_cast<HCURSOR>(GetClassLongPtr(*frame, GCLP_HCURSOR)));
+        frame->DestroyWindow();
+    });
+    EXPECT_EQ(Log{"frame gone"}, log);
+}
+
 TEST(Frame, BelongsToItsParent)
 {
     Log log;

@@ -1,4 +1,6 @@
+#include <climits>
 #include <functional>
+#include <limits>
 #include <optional>
 
 #include <afxcmn.h>
@@ -562,6 +564,247 @@ TEST(ExchangeAtTheScreen, PromptsOnceWhenAFieldIsTakenAsItLosesTheFocus)
     ui::Type(open.window, IDC_NUMBER, L"9");
     open.CloseBy(IDOK);
     EXPECT_EQ(9, dialog.number);
+}
+
+// ---- numbers of other types, and their bounds ----
+
+class ExchangeOfATypedNumber : public Exchange {
+protected:
+    /// Saves what is typed; the prompt that refused it, 0 where it was taken.
+    template <class Number> UINT Typed(const wchar_t* text, Number& value)
+    {
+        dialog.exchange = [&](CDataExchange* pass) { DDX_Text(pass, IDC_NUMBER, value); };
+        SetText(IDC_NUMBER, text);
+        application.boxes.clear();
+        return Save() ? 0 : application.boxes.at(0).helpId;
+    }
+    template <class Number> std::wstring Shown(Number value)
+    {
+        dialog.exchange = [&](CDataExchange* pass) { DDX_Text(pass, IDC_NUMBER, value); };
+        Load();
+        return Text(IDC_NUMBER);
+    }
+    /// Saves with a check; the text of the prompt that refused, empty where it was taken.
+    std::wstring Checked(const std::function<void(CDataExchange*)>& check)
+    {
+        dialog.exchange = [&](CDataExchange* pass) {
+            pass->PrepareEditCtrl(IDC_NUMBER);
+            check(pass);
+        };
+        application.boxes.clear();
+        return Save() ? L"" : application.boxes.at(0).text;
+    }
+};
+
+TEST_F(ExchangeOfATypedNumber, TakesWhatItsTypeHolds)
+{
+    BYTE byte = 7;
+    EXPECT_EQ(0U, Typed(L"255", byte));
+    EXPECT_EQ(255, byte);
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_BYTE}, Typed(L"256", byte));
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_BYTE}, Typed(L"-1", byte));
+    EXPECT_EQ(255, byte);
+    short small = 0;
+    EXPECT_EQ(0U, Typed(L"-32768", small));
+    EXPECT_EQ(-32768, small);
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_INT}, Typed(L"32768", small));
+    UINT natural = 0;
+    EXPECT_EQ(0U, Typed(L"4294967295", natural));
+    EXPECT_EQ(4294967295U, natural);
+    EXPECT_EQ(0U, Typed(L"-0", natural));
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_UINT}, Typed(L"-5", natural));
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_UINT}, Typed(L"4294967296", natural));
+    long whole = 0;
+    EXPECT_EQ(0U, Typed(L"-2147483648", whole));
+    EXPECT_EQ(LONG_MIN, whole);
+    DWORD word = 0;
+    EXPECT_EQ(0U, Typed(L"4000000000", word));
+    EXPECT_EQ(4000000000U, word);
+    LONGLONG wide = 0;
+    EXPECT_EQ(0U, Typed(L"-9223372036854775808", wide));
+    EXPECT_EQ(LLONG_MIN, wide);
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_INT}, Typed(L"9223372036854775808", wide));
+    ULONGLONG natural64 = 0;
+    EXPECT_EQ(0U, Typed(L"18446744073709551615", natural64));
+    EXPECT_EQ(ULLONG_MAX, natural64);
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_UINT}, Typed(L"18446744073709551616", natural64));
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_UINT}, Typed(L"99999999999999999999999", natural64));
+}
+
+TEST_F(ExchangeOfATypedNumber, TakesRealsAndNothingElse)
+{
+    double real = 7;
+    const struct {
+        const wchar_t* text;
+        double value;
+    } cases[] = {{L"0.1", 0.1}, {L" -2.5e3 ", -2500}, {L"+.5", 0.5}, {L"3.", 3}, {L"1e-3", 0.001}};
+    for (const auto& [text, value] : cases) {
+        EXPECT_EQ(0U, Typed(text, real)) << CStringA(text);
+        EXPECT_EQ(value, real) << CStringA(text);
+    }
+    for (const wchar_t* text :
+         {L"", L" ", L"x", L"1,5", L"1.5x", L"1 2", L"+-1", L"-+1", L"nan", L"inf", L"1e999", L"٣"})
+        EXPECT_EQ(UINT{AFX_IDP_PARSE_REAL}, Typed(text, real)) << CStringA(text);
+    EXPECT_EQ(0.001, real);
+    float single = 0;
+    EXPECT_EQ(0U, Typed(L"0.1", single));
+    EXPECT_EQ(0.1F, single);
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_REAL}, Typed(L"1e39", single));
+}
+
+TEST_F(ExchangeOfATypedNumber, IsShownAsItsTypeIs)
+{
+    EXPECT_EQ(L"255", Shown(BYTE{255}));
+    EXPECT_EQ(L"-32768", Shown(short{-32768}));
+    EXPECT_EQ(L"4294967295", Shown(UINT{4294967295U}));
+    EXPECT_EQ(L"-5", Shown(-5L));
+    EXPECT_EQ(L"4294967295", Shown(DWORD{4294967295U}));
+    EXPECT_EQ(L"-9223372036854775808", Shown(LONGLONG{LLONG_MIN}));
+    EXPECT_EQ(L"18446744073709551615", Shown(ULONGLONG{ULLONG_MAX}));
+    EXPECT_EQ(L"0.1", Shown(0.1));
+    EXPECT_EQ(L"0.1", Shown(0.1F));
+    EXPECT_EQ(L"0.333333333333333", Shown(1.0 / 3));
+    EXPECT_EQ(L"0.333333", Shown(1.0F / 3));
+}
+
+TEST_F(ExchangeOfATypedNumber, IsRefusedOutOfItsBounds)
+{
+    const std::wstring whole = L"Please enter an integer between 2 and 5.";
+    EXPECT_EQ(L"", Checked([](CDataExchange* pass) { DDV_MinMaxInt(pass, 2, 2, 5); }));
+    EXPECT_EQ(L"", Checked([](CDataExchange* pass) { DDV_MinMaxInt(pass, 5, 2, 5); }));
+    EXPECT_EQ(whole, Checked([](CDataExchange* pass) { DDV_MinMaxInt(pass, 6, 2, 5); }));
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_INT_RANGE}, application.boxes[0].helpId);
+    EXPECT_EQ(UINT{MB_OK | MB_ICONEXCLAMATION}, application.boxes[0].type);
+    EXPECT_EQ(whole, Checked([](CDataExchange* pass) { DDV_MinMaxByte(pass, 1, 2, 5); }));
+    EXPECT_EQ(whole, Checked([](CDataExchange* pass) { DDV_MinMaxShort(pass, -1, 2, 5); }));
+    EXPECT_EQ(whole, Checked([](CDataExchange* pass) { DDV_MinMaxLong(pass, 6, 2, 5); }));
+    EXPECT_EQ(whole, Checked([](CDataExchange* pass) { DDV_MinMaxUInt(pass, 4294967295U, 2, 5); }));
+    EXPECT_EQ(whole, Checked([](CDataExchange* pass) { DDV_MinMaxDWord(pass, 6, 2, 5); }));
+    EXPECT_EQ(whole, Checked([](CDataExchange* pass) { DDV_MinMaxLongLong(pass, LLONG_MIN, 2, 5); }));
+    EXPECT_EQ(whole, Checked([](CDataExchange* pass) { DDV_MinMaxULongLong(pass, ULLONG_MAX, 2, 5); }));
+    EXPECT_EQ(L"Please enter an integer between -7 and -5.",
+              Checked([](CDataExchange* pass) { DDV_MinMaxInt(pass, 0, -7, -5); }));
+    const std::wstring real = L"Please enter a number between 0.1 and 2.5.";
+    EXPECT_EQ(L"", Checked([](CDataExchange* pass) { DDV_MinMaxDouble(pass, 0.1, 0.1, 2.5); }));
+    EXPECT_EQ(real, Checked([](CDataExchange* pass) { DDV_MinMaxDouble(pass, 2.6, 0.1, 2.5); }));
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_REAL_RANGE}, application.boxes[0].helpId);
+    EXPECT_EQ(real, Checked([](CDataExchange* pass) { DDV_MinMaxFloat(pass, 0, 0.1F, 2.5F); }));
+    EXPECT_EQ(real, Checked([](CDataExchange* pass) {
+                  DDV_MinMaxDouble(pass, std::numeric_limits<double>::quiet_NaN(), 0.1, 2.5);
+              }));
+}
+
+TEST_F(ExchangeOfATypedNumber, IsNotCheckedWhenItIsShown)
+{
+    dialog.exchange = [](CDataExchange* pass) { DDV_MinMaxInt(pass, 6, 2, 5); };
+    EXPECT_TRUE(Load());
+    EXPECT_TRUE(application.boxes.empty());
+}
+
+// ---- texts and lists ----
+
+class ExchangeOfAListText : public Exchange {
+protected:
+    ExchangeOfAListText()
+    {
+        OnUi([this] {
+            for (const wchar_t* item : {L"нуль", L"один", L"два"})
+                dialog.SendDlgItemMessage(IDC_LIST, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+        });
+    }
+    CString value{L"old"};
+    int index = 7;
+};
+
+TEST_F(ExchangeOfAListText, LimitsWhatCanBeTypedAndRefusesTheRest)
+{
+    dialog.exchange = [this](CDataExchange* pass) {
+        DDX_Text(pass, IDC_TEXT, value);
+        DDV_MaxChars(pass, value, 3);
+    };
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(3, Ask(IDC_TEXT, EM_GETLIMITTEXT));
+    SetText(IDC_TEXT, L"шаг");
+    EXPECT_TRUE(Save());
+    SetText(IDC_TEXT, L"шаги");
+    EXPECT_FALSE(Save());
+    ASSERT_EQ(1U, application.boxes.size());
+    EXPECT_EQ(L"Please enter no more than 3 characters.", application.boxes[0].text);
+    EXPECT_EQ(UINT{AFX_IDP_PARSE_STRING_SIZE}, application.boxes[0].helpId);
+}
+
+TEST_F(ExchangeOfAListText, GivesTheSelectedTextOfAList)
+{
+    dialog.exchange = [this](CDataExchange* pass) { DDX_LBString(pass, IDC_LIST, value); };
+    EXPECT_TRUE(Save());
+    EXPECT_STREQ(L"", value) << "nothing is selected";
+    value = L"дв";
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(2, Ask(IDC_LIST, LB_GETCURSEL));
+    EXPECT_TRUE(Save());
+    EXPECT_STREQ(L"два", value);
+    value = L"три";
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(LB_ERR, Ask(IDC_LIST, LB_GETCURSEL));
+}
+
+TEST_F(ExchangeOfAListText, SelectsJustTheTextWhereItIsToBeExact)
+{
+    dialog.exchange = [this](CDataExchange* pass) { DDX_LBStringExact(pass, IDC_LIST, value); };
+    value = L"один";
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(1, Ask(IDC_LIST, LB_GETCURSEL));
+    value = L"дв";
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(LB_ERR, Ask(IDC_LIST, LB_GETCURSEL));
+    value = L"два";
+    EXPECT_TRUE(Load());
+    value.Empty();
+    EXPECT_TRUE(Save());
+    EXPECT_STREQ(L"два", value);
+}
+
+TEST_F(ExchangeOfAListText, GivesTheIndexThatIsSelected)
+{
+    dialog.exchange = [this](CDataExchange* pass) { DDX_LBIndex(pass, IDC_LIST, index); };
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(-1, index);
+    index = 1;
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(1, Ask(IDC_LIST, LB_GETCURSEL));
+    index = 9;
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(LB_ERR, Ask(IDC_LIST, LB_GETCURSEL));
+}
+
+TEST_F(ExchangeOfAListText, GivesTheTextOfAComboBox)
+{
+    dialog.exchange = [this](CDataExchange* pass) { DDX_CBString(pass, IDC_CHOICE, value); };
+    value = L"од";
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(1, Ask(IDC_CHOICE, CB_GETCURSEL));
+    EXPECT_TRUE(Save());
+    EXPECT_STREQ(L"один", value);
+    dialog.exchange = [this](CDataExchange* pass) { DDX_CBStringExact(pass, IDC_CHOICE, value); };
+    value = L"два";
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(2, Ask(IDC_CHOICE, CB_GETCURSEL));
+    value = L"од";
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(CB_ERR, Ask(IDC_CHOICE, CB_GETCURSEL));
+}
+
+TEST_F(ExchangeOfAListText, PutsATextThatNoItemHasIntoTheEditOfAComboBox)
+{
+    CComboBox free;
+    OnUi([&] { ASSERT_TRUE(free.Create(WS_CHILD | CBS_DROPDOWN, CRect(0, 0, 90, 90), &dialog, IDC_MISSING)); });
+    dialog.exchange = [this](CDataExchange* pass) { DDX_CBString(pass, IDC_MISSING, value); };
+    value = L"свой";
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(L"свой", ui::TextOf(free));
+    value.Empty();
+    EXPECT_TRUE(Save());
+    EXPECT_STREQ(L"свой", value);
 }
 
 } // namespace

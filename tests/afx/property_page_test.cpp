@@ -326,6 +326,60 @@ TEST_F(Page, TakesItsTemplateFromTheModuleThatWasSetWhenItWasMade)
     open.CloseBy(IDCANCEL);
 }
 
+/// A template in memory.
+const DLGTEMPLATE* TemplateOf(UINT id)
+{
+    const HRSRC resource = FindResource(nullptr, MAKEINTRESOURCE(id), RT_DIALOG);
+    return static_cast<const DLGTEMPLATE*>(LockResource(LoadResource(nullptr, resource)));
+}
+
+TEST_F(Page, StandsByATemplateInMemoryToo)
+{
+    CNotingPage page("page", log, 0);
+    page.m_psp.dwFlags |= PSP_DLGINDIRECT;
+    page.m_psp.pResource = TemplateOf(IDD_PAGE_WITH_TITLE);
+    sheet.AddPage(&page);
+    Modal open(sheet, L"Параметры");
+    EXPECT_EQ(L"Свой заголовок", TabText(sheet, 0));
+    EXPECT_EQ(L"5", ui::TextOf(page.m_hWnd, IDC_NUMBER));
+    open.CloseBy(IDOK);
+}
+
+/// The face and height of the font that a window shows its text in.
+std::pair<std::wstring, LONG> FontOf(HWND window)
+{
+    LOGFONTW font{};
+    GetObjectW(reinterpret_cast<HFONT>(SendMessage(window, WM_GETFONT, 0, 0)), sizeof font, &font);
+    return {font.lfFaceName, font.lfHeight};
+}
+
+class PageOfAnotherFont : public SheetTest, public testing::WithParamInterface<UINT> {};
+
+/// The sheet reckons the size of its pages in its own font.
+TEST_P(PageOfAnotherFont, TakesThatOfItsSheetSoThatNothingIsCut)
+{
+    CNotingPage page("page", log, GetParam());
+    sheet.AddPage(&one);
+    sheet.AddPage(&page);
+    for (int round = 0; round < 2; ++round) {
+        Modal open(sheet, L"Параметры");
+        Turn(open.window, 1);
+        const HWND edit = ui::Control(page.m_hWnd, IDC_NUMBER);
+        EXPECT_EQ(FontOf(ui::Control(open.window, IDOK)), FontOf(edit));
+        EXPECT_EQ(FontOf(ui::Control(one.m_hWnd, IDC_NUMBER)), FontOf(edit));
+        RECT last{};
+        GetWindowRect(ui::Control(page.m_hWnd, IDC_AFTER_GROUP), &last);
+        RECT around{};
+        GetWindowRect(page.m_hWnd, &around);
+        EXPECT_LE(last.right, around.right);
+        EXPECT_LE(last.bottom, around.bottom);
+        EXPECT_EQ(L"Крайняя", ui::TextOf(page.m_hWnd, IDC_AFTER_GROUP));
+        open.CloseBy(IDOK);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Page, PageOfAnotherFont, testing::Values(UINT{IDD_LARGE_PAGE}, UINT{IDD_PLAIN_PAGE}));
+
 TEST_F(Page, StandsAsAModelessDialogToo)
 {
     OnUi([this] {

@@ -67,7 +67,80 @@ TEST_F(Sheet, KnowsItsPages)
     EXPECT_EQ(&two, sheet.GetPage(1));
     EXPECT_EQ(nullptr, sheet.GetPage(3));
     EXPECT_EQ(nullptr, sheet.GetPage(-1));
+    EXPECT_EQ(1, sheet.GetPageIndex(&two));
+    const CNotingPage other("other", log);
+    EXPECT_EQ(-1, sheet.GetPageIndex(&other));
+}
+
+TEST_F(Sheet, StartsWithThePageThatWasChosenBefore)
+{
     EXPECT_EQ(nullptr, sheet.GetActivePage());
+    AddPages();
+    EXPECT_EQ(&one, sheet.GetActivePage());
+    EXPECT_TRUE(sheet.SetActivePage(1));
+    EXPECT_EQ(&two, sheet.GetActivePage());
+    EXPECT_EQ(1, sheet.GetActiveIndex());
+    EXPECT_FALSE(sheet.SetActivePage(3));
+    EXPECT_FALSE(sheet.SetActivePage(-1));
+    EXPECT_TRUE(sheet.SetActivePage(&three));
+    Modal open(sheet, L"Параметры");
+    OnUi([this] {
+        EXPECT_EQ(&three, sheet.GetActivePage());
+        EXPECT_EQ(2, sheet.GetActiveIndex());
+        EXPECT_TRUE(sheet.SetActivePage(&one));
+        EXPECT_EQ(&one, sheet.GetActivePage());
+        EXPECT_EQ(0, sheet.GetActiveIndex());
+    });
+    EXPECT_EQ(nullptr, two.m_hWnd);
+    open.CloseBy(IDCANCEL);
+}
+
+TEST_F(Sheet, TakesAPageMoreWhileItIsShown)
+{
+    sheet.AddPage(&one);
+    Modal open(sheet, L"Параметры");
+    CNotingPage broken("broken", log, IDD_NOWHERE);
+    OnUi([&] {
+        sheet.AddPage(&two);
+        sheet.AddPage(&two);
+        sheet.AddPage(&broken);
+    });
+    EXPECT_EQ(2, sheet.GetPageCount());
+    EXPECT_EQ(2, ui::On([this] { return sheet.GetTabControl()->GetItemCount(); }));
+    EXPECT_EQ(L"Свой заголовок", TabText(sheet, 1));
+    Turn(open.window, 1);
+    EXPECT_EQ(&two, ui::On([this] { return sheet.GetActivePage(); }));
+    ui::Type(two.m_hWnd, IDC_NUMBER, L"8");
+    EXPECT_EQ(IDOK, open.CloseBy(IDOK));
+    EXPECT_EQ(8, two.number);
+}
+
+TEST_F(Sheet, LosesAPageWhileItIsShown)
+{
+    AddPages();
+    Modal open(sheet, L"Параметры");
+    Turn(open.window, 1);
+    OnUi([this] {
+        sheet.RemovePage(&two);
+        sheet.RemovePage(7);
+    });
+    EXPECT_EQ(2, sheet.GetPageCount());
+    EXPECT_EQ(nullptr, two.m_hWnd);
+    EXPECT_EQ(2, ui::On([this] { return sheet.GetTabControl()->GetItemCount(); }));
+    EXPECT_EQ(L"Заголовок", TabText(sheet, 1));
+    OnUi([this] { two.SetModified(); }); // of no sheet any more
+    EXPECT_FALSE(ui::IsEnabled(open.window, kApplyNow));
+    EXPECT_EQ(IDOK, open.CloseBy(IDOK));
+}
+
+TEST_F(Sheet, LosesAPageBeforeItIsShown)
+{
+    AddPages();
+    sheet.RemovePage(0);
+    EXPECT_EQ(&two, sheet.GetPage(0));
+    Modal open(sheet, L"Параметры");
+    EXPECT_EQ(2, ui::On([this] { return sheet.GetTabControl()->GetItemCount(); }));
+    open.CloseBy(IDCANCEL);
 }
 
 TEST_F(Sheet, StandsReadyWhenItsStartIsHandled)

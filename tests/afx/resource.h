@@ -9,6 +9,8 @@
 #define IDD_POINTS           1020
 #define IDD_PAGE             1030
 #define IDD_PAGE_WITH_TITLE  1031
+#define IDD_LARGE_PAGE       1032
+#define IDD_PLAIN_PAGE       1033
 #define IDD_BROKEN           1040
 #define IDD_UNKNOWN_CLASS    1041
 #define IDD_NOWHERE          1099
