@@ -351,7 +351,7 @@ SettingsText WithChanges(const SettingsText& file, std::span<const Change> chang
     LineEdits edits;
     for (const Change& change : changes) {
         const std::string section = change.setting->Section();
-        const TextLine* const line = file.Find(section, change.setting->Key());
+        const TextLine* const line = file.FindNamed(section, change.setting->Key());
         if (!line && !change.text)
             continue;
         const std::string entry = change.text ? change.setting->Key() + ("=" + *change.text) : "";

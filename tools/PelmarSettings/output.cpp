@@ -117,7 +117,8 @@ void Table::Write(Output& output, std::string_view indent) const
             const Cell& cell = row[column];
             if (!cell.text.empty())
                 line += std::string(missing, ' ') + output.Painted(cell.style, cell.text);
-            missing = (cell.text.empty() ? missing : 0) + widths[column] - LengthOf(cell.text) + 2;
+            if (widths[column] > 0)
+                missing = (cell.text.empty() ? missing : 0) + widths[column] - LengthOf(cell.text) + 2;
         }
         text += line + '\n';
     }
