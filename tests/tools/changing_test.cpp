@@ -181,6 +181,14 @@ TEST_F(Changing, ResetTakesOperationsAndKeysAndRemovesWhatBelongsToNoOperation)
                   "DefaultPath.NCDefaultPath: это параметр самого TORVEX, заводского значения у него нет.\n");
 }
 
+TEST_F(Changing, ResetOfALengthTakesItsTypeAlong)
+{
+    folder.Write("CURRENT.INI", "[Options2x]\r\nUnits=0\r\nSideRoughStep=0.145000\r\nSideRoughStepType=0\r\n");
+    EXPECT_EQ(0u, folder.Run({"reset", "CURRENT.INI", "Options2x.SideRoughStep"}).status);
+    EXPECT_EQ("[Options2x]\r\nUnits=0\r\nSideRoughStep=0.800000\r\nSideRoughStepType=1\r\n",
+              folder.Read("CURRENT.INI"));
+}
+
 TEST_F(Changing, ConvertThereAndBackGivesTheSameBytes)
 {
     const std::string before = tool_testing::FactoryFile();

@@ -75,6 +75,7 @@ ChosenSettings ToReset(const std::vector<std::string>& names)
             if (setting.record && !setting.IsUnits())
                 chosen.push_back(&setting);
     MustHaveFactoryValues(chosen);
+    TakeTypesAlong(chosen);
     return chosen;
 }
 

@@ -49,7 +49,8 @@ struct Standard {
             });
         for (const std::string& name : only)
             ChooseNamed(name, sound);
-        TakeTypesAlong();
+        LeaveOutLengthsOfFaultyTypes();
+        TakeTypesAlong(chosen);
         LeaveOutWhatIsReadElsewhere();
         if (chosen.empty())
             throw NotDone(file.path.shown + ": в образце нет значений, которые можно взять.");
@@ -69,22 +70,14 @@ private:
     }
 
     /// A length means what the type beside it says.
-    void TakeTypesAlong()
+    void LeaveOutLengthsOfFaultyTypes()
     {
-        const ChosenSettings lengths = chosen;
-        for (const Setting* const length : lengths) {
-            const bool hasType = length->record && length->option->scaling == Scaling::WhileConstant;
-            if (!hasType)
-                continue;
-            const Setting* const type = review::SettingOf(*length->record->TypeOf(*length->option));
-            const bool isFaulty = std::ranges::any_of(faults, [type](const Finding& fault) {
-                return fault.setting == type && fault.kind != review::FindingKind::RepeatedKey;
-            });
-            if (isFaulty)
-                std::erase(chosen, length);
-            else
-                AddOnce(chosen, type);
-        }
+        std::erase_if(chosen, [this](const Setting* length) {
+            const Setting* const type = TypeOf(*length);
+            return type && std::ranges::any_of(faults, [type](const Finding& fault) {
+                       return fault.setting == type && fault.kind != review::FindingKind::RepeatedKey;
+                   });
+        });
     }
 
     void LeaveOutWhatIsReadElsewhere()

@@ -8,6 +8,7 @@
 #include "review/setting.h"
 #include "review/values.h"
 #include "texts.h"
+#include "writing.h"
 
 namespace pelmar::tool {
 namespace {
@@ -94,19 +95,13 @@ void ListGroups(const Speech& speech)
     table.Write(speech.out);
 }
 
-const Option* TypeOf(const Setting& setting)
-{
-    return setting.option->scaling == Scaling::WhileConstant ? setting.record->TypeOf(*setting.option) : nullptr;
-}
-
 /// Of the value that the units do or do not change.
 std::string UnitRule(const Setting& setting)
 {
     if (setting.IsUnits())
         return "единицы раздела; меняются командой convert вместе с длинами";
-    if (const Option* const type = TypeOf(setting))
-        return std::string("длина, пока ") + type->key + " = 0 (" +
-               review::ShownNumber(*review::SettingOf(*type), 0, LibraryWords()) +
+    if (const Setting* const type = TypeOf(setting))
+        return std::string("длина, пока ") + type->Key() + " = 0 (" + review::ShownNumber(*type, 0, LibraryWords()) +
                "); иначе доля радиуса инструмента (× R)";
     switch (setting.option->kind) {
     case OptionKind::Length:

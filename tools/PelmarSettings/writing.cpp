@@ -26,7 +26,7 @@ bool IsAmong(const Setting* setting, const ChosenSettings& chosen)
     return std::ranges::find(chosen, setting) != chosen.end();
 }
 
-const char* Words(SaveFailure failure)
+const char* WordsOf(SaveFailure failure)
 {
     switch (failure) {
     case SaveFailure::NotAFile:
@@ -57,7 +57,7 @@ std::string WhyNotSaved(const FilePath& path)
 {
     const SaveOutcome& outcome = LastSave();
     const std::string system = outcome.systemError == 0 ? "" : " Система: " + SystemReason(outcome.systemError) + ".";
-    return path.shown + ": не записано: " + Words(outcome.failure) + "." + system;
+    return path.shown + ": не записано: " + WordsOf(outcome.failure) + "." + system;
 }
 
 /// Whether the file holds what was written.
@@ -68,6 +68,12 @@ bool Holds(const review::SettingsText& text, const Change& change)
 }
 
 } // namespace
+
+const Setting* TypeOf(const Setting& length)
+{
+    const bool hasType = length.record && length.option->scaling == Scaling::WhileConstant;
+    return hasType ? review::SettingOf(*length.record->TypeOf(*length.option)) : nullptr;
+}
 
 void MustHold(const Plan& plan, const Values& wanted, const ChosenSettings& chosen)
 {
@@ -83,6 +89,15 @@ void MustHold(const Plan& plan, const Values& wanted, const ChosenSettings& chos
     }
     if (!reasons.empty())
         throw NotDone(plan.file.path.shown + ": ничего не записано. Библиотека не прочла бы этих значений:" + reasons);
+}
+
+void TakeTypesAlong(ChosenSettings& chosen)
+{
+    for (std::size_t index = 0; index < chosen.size(); ++index) {
+        const Setting* const type = TypeOf(*chosen[index]);
+        if (type && !IsAmong(type, chosen))
+            chosen.push_back(type);
+    }
 }
 
 ChosenSettings ReadElsewhere(const ChosenSettings& chosen)

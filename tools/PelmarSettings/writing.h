@@ -29,6 +29,11 @@ struct Plan {
 /// settings after it.
 void MustHold(const Plan& plan, const review::Values& wanted, const ChosenSettings& chosen);
 
+/// What says whether a length is one or a multiple of the tool radius; null where nothing does.
+const review::Setting* TypeOf(const review::Setting& length);
+/// Adds the types that the chosen lengths stand beside: without its type a length may mean another thing.
+void TakeTypesAlong(ChosenSettings& chosen);
+
 /// Those of the chosen settings that the library reads from a key of another section which is not chosen.
 ChosenSettings ReadElsewhere(const ChosenSettings& chosen);
 /// "RoundMill.SideClearance читается из …".
