@@ -2,71 +2,27 @@
 // value is another, one is, or none: the platform writes the file anew for each value that is, and for no other. The
 // file looks old, as settings files are when they are saved: the platform then keeps what it has read.
 #include <cstdio>
-#include <cstring>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include <afxwin.h>
 
+#include "bench/profile_calls.h"
 #include "bench/stopwatch.h"
 #include "module/host_folder.h"
 #include "option_pages.h"
 
+using bench::EntriesOf;
+using bench::Entry;
+using bench::RestoreBare;
+
 namespace {
-
-struct Entry {
-    std::string section;
-    std::string key;
-    std::string text;
-    bool isReal;
-    int whole;
-};
-
-/// The zero-terminated texts of a list that ends with an empty one.
-std::vector<std::string> TextsOf(const std::vector<char>& list)
-{
-    std::vector<std::string> texts;
-    for (const char* text = list.data(); *text; text += std::strlen(text) + 1)
-        texts.emplace_back(text);
-    return texts;
-}
-
-/// What a settings file holds, in its order.
-std::vector<Entry> EntriesOf(const char* file)
-{
-    std::vector<char> list(32765);
-    GetPrivateProfileSectionNamesA(list.data(), static_cast<DWORD>(list.size()), file);
-    std::vector<Entry> entries;
-    for (const std::string& section : TextsOf(list)) {
-        std::vector<char> lines(32765);
-        GetPrivateProfileSectionA(section.c_str(), lines.data(), static_cast<DWORD>(lines.size()), file);
-        for (const std::string& line : TextsOf(lines)) {
-            const size_t equals = line.find('=');
-            const std::string text = line.substr(equals + 1);
-            const bool isReal = text.find('.') != std::string::npos;
-            entries.push_back({section, line.substr(0, equals), text, isReal, isReal ? 0 : std::atoi(text.c_str())});
-        }
-    }
-    return entries;
-}
 
 void SaveBare(const std::vector<Entry>& entries, const char* file)
 {
     for (const Entry& entry : entries)
         WritePrivateProfileStringA(entry.section.c_str(), entry.key.c_str(), entry.text.c_str(), file);
-}
-
-void RestoreBare(const std::vector<Entry>& entries, const char* file)
-{
-    char text[256];
-    for (const Entry& entry : entries) {
-        if (entry.isReal)
-            GetPrivateProfileStringA(entry.section.c_str(), entry.key.c_str(), entry.text.c_str(), text, sizeof text,
-                                     file);
-        else
-            GetPrivateProfileIntA(entry.section.c_str(), entry.key.c_str(), entry.whole, file);
-    }
 }
 
 /// Lines of a section that no record has.

@@ -12,6 +12,7 @@ if(PELMAR_FRAMEWORK STREQUAL afx)
     list(APPEND libraries afx)
     install(DIRECTORY afx/include/ DESTINATION include/afx)
 endif()
+install(TARGETS PelmarSettings RUNTIME DESTINATION bin)
 install(TARGETS ${libraries} EXPORT PelmarDlgsTargets
     RUNTIME DESTINATION bin ARCHIVE DESTINATION lib LIBRARY DESTINATION bin)
 if(MINGW)

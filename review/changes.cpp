@@ -152,16 +152,31 @@ bool HoldsAlready(const SettingsText& file, const Setting& setting, const Values
     return IsWhole(value) && values.Whole(setting.Section(), setting.Key(), 0) == wanted.Number(setting);
 }
 
-/// The units of the file's records: of the most, inch where it has none.
-int UnitsOfMost(const SettingsText& file, const Values& values)
-{
-    int millimetres = 0;
-    int inches = 0;
-    for (const RecordDescription& record : DescribeRecords())
-        if (file.HasSection(record.table.Section()))
-            ++(values.Units(record) == kInch ? inches : millimetres);
-    return millimetres > inches ? kMillimetre : kInch;
-}
+/// The units of the file's sections, and of those that it lacks.
+class SectionUnits {
+public:
+    explicit SectionUnits(const SettingsText& file) : m_file(file), m_held(Values::AtStart(file, SettingsText()))
+    {
+        for (const RecordDescription& record : DescribeRecords())
+            if (file.HasSection(record.table.Section()))
+                ++(m_held.Units(record) == kInch ? m_inches : m_millimetres);
+    }
+
+    int Of(const RecordDescription& record, int otherwise) const
+    {
+        if (m_file.HasSection(record.table.Section()))
+            return m_held.Units(record);
+        if (m_inches == 0 && m_millimetres == 0)
+            return otherwise;
+        return m_millimetres > m_inches ? kMillimetre : kInch;
+    }
+
+private:
+    const SettingsText& m_file;
+    Values m_held;
+    int m_inches = 0;
+    int m_millimetres = 0;
+};
 
 const Setting& UnitsSetting(const RecordDescription& record)
 {
@@ -187,6 +202,30 @@ bool StandsInTheWay(const Finding& finding)
     const Option& option = *finding.setting->option;
     return isNoValue &&
            (option.scaling != Scaling::Never || option.kind == OptionKind::Units || option.kind == OptionKind::Choice);
+}
+
+/// The units of the holes' factory values stand in a section of their own. The two must not come apart.
+void ConvertUnitsOfHoles(const SettingsText& file, const Values& held, int units, Conversion& conversion)
+{
+    using Facts = RecordFacts<HoleProcessDefsInfo>;
+    const Setting& ofFactory = *FindSetting(Facts::unitsOfDefaultsSection, "Units");
+    const Setting& own = *FindSetting(Facts::table.Section(), "Units");
+    const TextLine* const line = file.Find(ofFactory.Section(), ofFactory.Key());
+    if (!line)
+        return;
+    const int factoryUnits = TextValues(file).Whole(ofFactory.Section(), ofFactory.Key(), kInch);
+    const bool isApart = file.HasSection(own.Section()) && factoryUnits != held.Units(*own.record);
+    if (isApart)
+        conversion = {.changes = {},
+                      .obstacles = {{.kind = FindingKind::OtherUnits,
+                                     .line = line->number,
+                                     .section = ofFactory.Section(),
+                                     .key = ofFactory.Key(),
+                                     .setting = &ofFactory,
+                                     .standing = std::string(line->value),
+                                     .used = factoryUnits == kInch ? "дюймы" : "мм"}}};
+    else if (factoryUnits != units)
+        conversion.changes.push_back({&ofFactory, std::to_string(units)});
 }
 
 std::string Converted(const SettingsText& file, const Setting& setting, int units)
@@ -261,13 +300,17 @@ std::string StoredText(const Setting& setting, double number)
     return DecimalsOf(shortest) <= kMoreDecimals ? Filled(shortest) : PrintedWith(number, kStoredDecimals);
 }
 
+int UnitsOfSection(const SettingsText& file, const RecordDescription& record, int otherwise)
+{
+    return SectionUnits(file).Of(record, otherwise);
+}
+
 std::vector<Change> ChangesTo(const SettingsText& file, const Values& wanted, std::span<const Setting* const> chosen)
 {
-    const Values held = Values::AtStart(file, SettingsText());
-    const int unitsOfNew = UnitsOfMost(file, held);
+    const SectionUnits units(file);
     Values target = wanted;
     for (const RecordDescription& record : DescribeRecords())
-        target.Convert(record, file.HasSection(record.table.Section()) ? held.Units(record) : unitsOfNew);
+        target.Convert(record, units.Of(record, wanted.Units(record)));
 
     std::vector<Change> changes;
     const RecordDescription* made = nullptr;
@@ -276,7 +319,7 @@ std::vector<Change> ChangesTo(const SettingsText& file, const Values& wanted, st
             continue;
         if (setting->record && setting->record != made && !file.HasSection(setting->Section())) {
             made = setting->record;
-            changes.push_back({&UnitsSetting(*made), std::to_string(unitsOfNew)});
+            changes.push_back({&UnitsSetting(*made), std::to_string(target.Units(*made))});
         }
         changes.push_back(
             {setting, setting->IsText() ? target.Text(*setting) : StoredText(*setting, target.Number(*setting))});
@@ -299,6 +342,7 @@ Conversion ConversionTo(const SettingsText& file, int units, const Words& words)
         else if (IsLengthIn(file, setting))
             conversion.changes.push_back({&setting, Converted(file, setting, units)});
     }
+    ConvertUnitsOfHoles(file, held, units, conversion);
     return conversion;
 }
 
@@ -307,7 +351,7 @@ SettingsText WithChanges(const SettingsText& file, std::span<const Change> chang
     LineEdits edits;
     for (const Change& change : changes) {
         const std::string section = change.setting->Section();
-        const TextLine* const line = file.Find(section, change.setting->Key());
+        const TextLine* const line = file.FindNamed(section, change.setting->Key());
         if (!line && !change.text)
             continue;
         const std::string entry = change.text ? change.setting->Key() + ("=" + *change.text) : "";

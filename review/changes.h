@@ -40,9 +40,14 @@ struct Change {
 /// How a number stands in the files: a real with six decimals, more where it needs up to ten.
 std::string StoredText(const Setting& setting, double number);
 
+/// The units that a file's section of a record has; where the file lacks the section, those that it is to be made in:
+/// of most of the file's other records, or `otherwise` where it holds none.
+int UnitsOfSection(const SettingsText& file, const RecordDescription& record, int otherwise);
+
 /// What to write so that the file holds the wanted value of every chosen setting; nothing for what it holds already.
 /// Lengths are converted to the units that the file's section has. A section that the file lacks is made with its
-/// units: those of the file's other records. Units themselves are never changed.
+/// units: those of the file's other records, or those of the wanted values where it holds none. Units themselves are
+/// never changed.
 std::vector<Change> ChangesTo(const SettingsText& file, const Values& wanted, std::span<const Setting* const> chosen);
 
 /// What to write so that the file is in other units (0 inch, 1 millimetre): every length that the file holds, so that

@@ -58,6 +58,7 @@ private:
             break;
         case TextLine::Kind::Other:
             Add(FindingKind::NoEntry, line);
+            m_keys.emplace(Lowered(line.key), std::string_view()); // a line of that key after it is not read
             break;
         case TextLine::Kind::Comment:
             break;

@@ -36,13 +36,13 @@ TextState StateOf(std::string_view bytes)
     return TextState::Sound;
 }
 
-/// Lines end with a line feed; only where none follows a carriage return ends one too.
+/// A carriage return, a line feed or both end a line.
 std::size_t EndOfLine(std::string_view rest)
 {
-    std::size_t end = rest.find('\n');
+    const std::size_t end = rest.find_first_of("\r\n");
     if (end == std::string_view::npos)
-        end = rest.find('\r');
-    return end == std::string_view::npos ? rest.size() : end + 1;
+        return rest.size();
+    return rest.substr(end).starts_with("\r\n") ? end + 2 : end + 1;
 }
 
 constexpr char LoweredLetter(char letter)
@@ -156,7 +156,7 @@ void SettingsText::AddLine(std::string_view line, int number)
     TextLine entry{.number = number, .section = m_section, .key = line, .value = {}};
     if (const std::size_t end = line.rfind(']'); line.front() == '[' && end != std::string_view::npos) {
         entry.kind = TextLine::Kind::Section;
-        entry.section = m_section = line.substr(1, end - 1);
+        entry.section = m_section = Trimmed(line.substr(1, end - 1));
         m_isRepeated = !m_entries.emplace(SectionName(m_section), m_lines.size()).second;
         m_lines.push_back(entry);
         return;
@@ -168,13 +168,19 @@ void SettingsText::AddLine(std::string_view line, int number)
         entry.kind = TextLine::Kind::Entry;
         entry.key = Trimmed(line.substr(0, equals));
         entry.value = Trimmed(line.substr(equals + 1));
-        if (!m_isRepeated)
-            m_entries.emplace(EntryName{m_section, entry.key}, m_lines.size());
     }
+    if (!m_isRepeated)
+        m_entries.emplace(EntryName{m_section, entry.key}, m_lines.size());
     m_lines.push_back(entry);
 }
 
 const TextLine* SettingsText::Find(std::string_view section, std::string_view key) const
+{
+    const TextLine* const line = FindNamed(section, key);
+    return line && line->kind == TextLine::Kind::Entry ? line : nullptr;
+}
+
+const TextLine* SettingsText::FindNamed(std::string_view section, std::string_view key) const
 {
     const auto found = m_entries.find({section, key});
     return found == m_entries.end() ? nullptr : &m_lines[found->second];
@@ -190,7 +196,7 @@ SettingsText SettingsText::Edited(const LineEdits& edits) const
     constexpr std::string_view kEnd = "\r\n";
     std::string edited;
     const auto add = [&](std::string_view line) {
-        if (!edited.empty() && edited.back() != '\n')
+        if (!edited.empty() && edited.back() != '\n' && edited.back() != '\r')
             edited += kEnd;
         edited.append(line);
     };

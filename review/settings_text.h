@@ -82,6 +82,9 @@ public:
     std::span<const TextLine> Lines() const { return m_lines; }
     /// The line that counts for a key: the first one in the first section of that name. Null where there is none.
     const TextLine* Find(std::string_view section, std::string_view key) const;
+    /// The line that a write to the key replaces: also one that is the key alone, without "=". That one hides the key
+    /// in the lines after it.
+    const TextLine* FindNamed(std::string_view section, std::string_view key) const;
     bool HasSection(std::string_view section) const;
     const std::string& Bytes() const { return *m_bytes; }
     SettingsText Edited(const LineEdits& edits) const;

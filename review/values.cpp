@@ -189,6 +189,13 @@ std::string ShownUnit(const Setting& setting, const Values& values)
     return setting.option->kind == OptionKind::Feed ? length + "/мин" : length;
 }
 
+std::string WithUnit(const std::string& value, const std::string& unit)
+{
+    if (unit.empty() || unit == "°" || unit == "%")
+        return value + unit;
+    return value + " " + unit;
+}
+
 std::string ShownRange(const Setting& setting)
 {
     const Range& range = setting.option->range;
@@ -208,7 +215,8 @@ std::vector<Difference> Differences(const Values& values, const Values& compared
     std::vector<Difference> differences;
     for (const Setting& setting : AllSettings())
         if (!setting.IsUnits() && !setting.IsOfHost() && !IsSameValue(setting, values, other))
-            differences.push_back({&setting, ShownValue(setting, values, words), ShownValue(setting, other, words)});
+            differences.push_back({&setting, ShownValue(setting, values, words), ShownValue(setting, other, words),
+                                   ShownUnit(setting, values), ShownUnit(setting, other)});
     return differences;
 }
 

@@ -62,6 +62,8 @@ std::string ShownValue(const Setting& setting, const Values& values, const Words
 std::string ShownNumber(const Setting& setting, double number, const Words& words);
 /// What the number counts: "дюйм", "мм", "× R", "°", "%"; empty where it has no unit.
 std::string ShownUnit(const Setting& setting, const Values& values);
+/// The two together: "0.5 мм", "135°".
+std::string WithUnit(const std::string& value, const std::string& unit);
 /// The range of a number, for people; empty where any number will do.
 std::string ShownRange(const Setting& setting);
 
@@ -70,6 +72,8 @@ struct Difference {
     const Setting* setting;
     std::string value;
     std::string compared; ///< in the same units
+    std::string unit{};   ///< what the value counts
+    std::string comparedUnit{};
 };
 
 /// All differences, in the order of the settings. Units themselves are none: values are compared in those of `values`.

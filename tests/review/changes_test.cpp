@@ -128,6 +128,42 @@ TEST(ChangesTo, ASectionThatIsMissingIsMadeInTheUnitsOfTheOthers)
     EXPECT_EQ(Written(ChangesTo(file, Values(), chosen)), "Options2x.Units=1\nOptions2x.RapidPlane=25.000000\n");
 }
 
+TEST(ChangesTo, AFileWithoutRecordsGetsTheUnitsOfTheWantedValues)
+{
+    const SettingsText standard = Text("[Options2x]\nUnits=1\nRapidPlane=30\n");
+    const Setting* const chosen[] = {&At("Options2x", "RapidPlane")};
+    EXPECT_EQ(Written(ChangesTo(SettingsText(), Values::AtStart(standard, SettingsText()), chosen)),
+              "Options2x.Units=1\nOptions2x.RapidPlane=30.000000\n");
+}
+
+TEST(ChangesTo, UnitsOfASectionAreItsOwnOrThoseOfMost)
+{
+    const SettingsText file = Text("[Options2x]\nUnits=0\n[Options3x]\nUnits=1\n[Options4x]\nUnits=1\n");
+    const auto units = [&](const char* section) { return UnitsOfSection(file, *At(section, "Units").record, kInch); };
+    EXPECT_EQ(units("Options2x"), kInch);
+    EXPECT_EQ(units("Options3x"), kMillimetre);
+    EXPECT_EQ(units("Options5x"), kMillimetre);
+    EXPECT_EQ(UnitsOfSection(SettingsText(), *At("Options5x", "Units").record, kMillimetre), kMillimetre);
+}
+
+TEST(WithChanges, AKeyWithoutAnEqualsSignGetsItsValueThere)
+{
+    const SettingsText file = Text("[Options2x]\nRapidPlane\nUnits=0\n");
+    const Change change{&At("Options2x", "RapidPlane"), "2.000000"};
+    EXPECT_EQ(WithChanges(file, std::span(&change, 1)).Bytes(), "[Options2x]\nRapidPlane=2.000000\r\nUnits=0\n");
+}
+
+TEST(Conversion, TheUnitsOfTheHolesStayTogether)
+{
+    const SettingsText file = Text("[HoleProcess]\nUnits=0\n[HoleProcessLocation]\nUnits=0\nBandWidth=1\n");
+    const std::string written = Written(ConversionTo(file, kMillimetre, kWords).changes);
+    EXPECT_TRUE(written.starts_with("HoleProcessLocation.Units=1\nHoleProcessLocation.BandWidth=25.000000\n"));
+    EXPECT_TRUE(written.ends_with("HoleProcess.Units=1\n"));
+    const SettingsText apart = Text("[HoleProcess]\nUnits=1\n[HoleProcessLocation]\nUnits=0\nBandWidth=1\n");
+    EXPECT_EQ(ConversionTo(apart, kMillimetre, kWords).obstacles.size(), 1U);
+    EXPECT_TRUE(ConversionTo(apart, kMillimetre, kWords).changes.empty());
+}
+
 TEST(Conversion, ThereAndBackGivesTheSameBytes)
 {
     const std::string bytes = "[Options2x]\nUnits=1\nRapidPlane=2.123456\nRapidPlunge=0.000001\n"

@@ -183,6 +183,14 @@ TEST(Findings, LinesThatAreReadByNobodyAreTold)
     EXPECT_TRUE(Found("; remark\n\n[Settings]\n; another\nDecimals=4\n").empty());
 }
 
+TEST(Findings, WhatALineWithoutAnEqualsSignHidesIsRepeated)
+{
+    const std::vector<Finding> findings = FoundBesidesMissing("[Settings]\nDecimals\nDecimals=4\n");
+    ASSERT_EQ(findings.size(), 2U);
+    EXPECT_EQ(findings.back().kind, FindingKind::RepeatedKey);
+    EXPECT_EQ(Explained(findings.back()), "Ключ уже был, «4» не читается.");
+}
+
 TEST(Findings, AFileAsAWholeIsToldBeforeAnythingInIt)
 {
     EXPECT_EQ(TheOne("").kind, FindingKind::FileIsEmpty);

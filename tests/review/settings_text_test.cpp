@@ -22,7 +22,22 @@ TEST(SettingsText, TheFirstKeyOfTheFirstSectionCounts)
 
 TEST(SettingsText, BlanksAroundNamesAndValuesDoNotCount)
 {
+    EXPECT_EQ(ValueIn("[ A ]\nKey=1\n", "A", "Key"), "1");
     EXPECT_EQ(ValueIn("  [A]  \r\n \t Facing Angle \t=  1 2 \r\n", "A", "Facing Angle"), "1 2");
+}
+
+TEST(SettingsText, EitherEndOfALineWillDo)
+{
+    EXPECT_EQ(ValueIn("[A]\rKey=1\rOther=2", "A", "Other"), "2");
+    EXPECT_EQ(ValueIn("[A]\nKey=1\r\rOther=2\n", "A", "Key"), "1");
+}
+
+TEST(SettingsText, ALineThatIsTheKeyAloneHidesTheKey)
+{
+    EXPECT_EQ(ValueIn("[A]\nKey\nKey=1\n", "A", "Key"), "absent");
+    const SettingsText settings(std::string("[A]\nKey\n"));
+    ASSERT_NE(settings.FindNamed("A", "Key"), nullptr);
+    EXPECT_EQ(settings.FindNamed("A", "Key")->number, 2);
 }
 
 TEST(SettingsText, LinesAreNumberedAsAnEditorNumbersThem)
