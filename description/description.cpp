@@ -5,6 +5,7 @@
 #include "dialogs/default_tools_controls.h"
 #include "dialogs/defaults_file_chooser_controls.h"
 #include "dialogs/nc_defaults_controls.h"
+#include "dialogs/settings_review_controls.h"
 #include "dialogs/setup_sheet_controls.h"
 #include "dialogs/template_options_controls.h"
 #include "pages/chamfer_mill_controls.h"
@@ -127,6 +128,7 @@ constexpr WindowDescription kWindows[] = {
     {nullptr, kChooserPage, nullptr},
     {nullptr, kTemplatesPage, nullptr},
     Edits<CSSheetOptionsInfo>(kSetupSheetPage),
+    {nullptr, kSettingsReviewPage, nullptr},
 };
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "PelmarDlgs/dialogs/defaults_file_chooser.h"
 #include "PelmarDlgs/dialogs/nc_defaults.h"
 #include "PelmarDlgs/dialogs/nc_dialog.h"
+#include "PelmarDlgs/dialogs/settings_review.h"
 #include "PelmarDlgs/dialogs/setup_sheet.h"
 #include "PelmarDlgs/dialogs/template_options.h"
 #include "PelmarDlgs/evaluator.h"

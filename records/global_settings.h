@@ -198,6 +198,7 @@ inline constexpr GlobalSetting kGlobalSettings[] = {
     detail::OfHost("DefaultDisplayParameter", "NcDisplayMode", "Отображение команд ЧПУ"),
     detail::OfHost("DefaultDisplayParameter", "NcMenuIcons", "Иконки в меню"),
     detail::OfHost(global_section::kSettings, "Units", "Единицы TORVEX"),
+    detail::OfHost("SettingsReview", kAnyKey, "Окно проверки параметров", true),
 };
 
 } // namespace pelmar

@@ -24,6 +24,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_NC_DEFAULTS_FILE, &CMainFrame::OnNcDefaultsFile)
     ON_COMMAND(ID_NC_TEMPLATES, &CMainFrame::OnNcTemplates)
     ON_COMMAND(ID_NC_SETUP_SHEET, &CMainFrame::OnNcSetupSheet)
+    ON_COMMAND(ID_NC_REVIEW, &CMainFrame::OnNcReview)
     ON_COMMAND(ID_FILE_RESTART, &CMainFrame::OnRestart)
     ON_COMMAND(ID_UNITS_INCH, &CMainFrame::OnInch)
     ON_COMMAND(ID_UNITS_MILLIMETRE, &CMainFrame::OnMillimetre)
@@ -155,6 +156,20 @@ void CMainFrame::OnNcTemplates()
 void CMainFrame::OnNcSetupSheet()
 {
     ShowSetupSheetOptions(this, m_units);
+    ShowSettings();
+}
+
+/// The review, and from there the page or dialog that the user wants to see.
+void CMainFrame::OnNcReview()
+{
+    const pelmar::SettingPlace place = ShowSettingsReview(this);
+    ShowSettings();
+    if (!place.templateId)
+        return;
+    if (place.templateId == CDefsSetupsheet::IDD)
+        ShowSetupSheetOptions(this, m_units, place.controlId);
+    else
+        COptionsSheet(this, m_units, COptionsSheet::Use::Edit, place).DoModal();
     ShowSettings();
 }
 

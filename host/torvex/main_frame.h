@@ -20,6 +20,7 @@ protected:
     void OnNcDefaultsFile();
     void OnNcTemplates();
     void OnNcSetupSheet();
+    void OnNcReview();
     void OnRestart();
     void OnInch();
     void OnMillimetre();

@@ -4,6 +4,7 @@
 
 #include "dialog_frame.h"
 #include "nc_data.h"
+#include "option_pages.h"
 #include "pending_save.h"
 #include "resource.h"
 #include "tool_library.h"
@@ -87,6 +88,29 @@ BEGIN_TEMPLATE_MESSAGE_MAP(CWithDefaults, Dialog, Dialog)
     ON_BN_CLICKED(IDC_PAGE_DEFAULTS, &CWithDefaults::OnDefaults)
 END_MESSAGE_MAP()
 
+/// The review of the settings, open until the records are saved.
+class CReview : public CSettingsReviewDlg {
+public:
+    using CSettingsReviewDlg::CSettingsReviewDlg;
+
+protected:
+    void OnOK() override
+    {
+        if (!UpdateData(TRUE))
+            return;
+        const auto store = [this] {
+            SetData();
+            SaveAll();
+            vSSheetOptions_Save();
+        };
+        if (m_save.Save(IDS_WHAT_OPTIONS, store))
+            CSettingsReviewDlg::OnOK();
+    }
+
+private:
+    PendingSave m_save;
+};
+
 /// Shows a dialog that keeps its settings by itself.
 template <class Dialog> void ShowFramed(CWnd* parent, UINT title)
 {
@@ -120,14 +144,26 @@ void ShowTemplateOptions(CWnd* parent)
     ShowFramed<CTemplateOptions>(parent, IDS_TEMPLATES_TITLE);
 }
 
-void ShowSetupSheetOptions(CWnd* parent, int units)
+void ShowSetupSheetOptions(CWnd* parent, int units, int controlId)
 {
     CDefsSetupsheet dialog;
+    const auto fill = [&] {
+        dialog.GetData(units);
+        if (const HWND control = controlId ? ::GetDlgItem(dialog.m_hWnd, controlId) : nullptr)
+            dialog.PostMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+    };
     const auto store = [&dialog] {
         dialog.SetData();
         vSSheetOptions_Save();
     };
-    CDialogFrame(parent, {dialog, CDefsSetupsheet::IDD, IDS_SETUP_SHEET_TITLE, [&] { dialog.GetData(units); }, store,
+    CDialogFrame(parent, {dialog, CDefsSetupsheet::IDD, IDS_SETUP_SHEET_TITLE, fill, store,
                           [&dialog] { dialog.UpdateData(FALSE); }})
         .DoModal();
+}
+
+SettingPlace ShowSettingsReview(CWnd* parent)
+{
+    CReview review(parent);
+    review.DoModal();
+    return review.Destination();
 }

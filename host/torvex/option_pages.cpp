@@ -7,7 +7,11 @@
 
 namespace {
 
-using MakePage = std::unique_ptr<CPropertyPage>(int units);
+/// A page's template, and how it is made.
+struct PageRow {
+    int templateId;
+    std::unique_ptr<CPropertyPage> (*make)(int units);
+};
 
 template <class Page> std::unique_ptr<CPropertyPage> Make(int units)
 {
@@ -27,11 +31,14 @@ template <class Record> void TakeDefaults(Record& record)
         record.Defaults();
 }
 
-template <class Record> OptionPage Row(UINT tab, MakePage* make, Record* record, void (Record::*checkUnits)(long),
+template <class Page> constexpr PageRow kPage{Page::IDD, Make<Page>};
+
+template <class Record> OptionPage Row(UINT tab, PageRow page, Record* record, void (Record::*checkUnits)(long),
                                        void (Record::*restore)(), void (Record::*save)())
 {
     return {tab,
-            make,
+            page.templateId,
+            page.make,
             [record] { TakeDefaults(*record); },
             [record, restore] { (record->*restore)(); },
             [record, save] { (record->*save)(); },
@@ -39,9 +46,9 @@ template <class Record> OptionPage Row(UINT tab, MakePage* make, Record* record,
 }
 
 /// A record whose operations bear the usual names.
-template <class Record> OptionPage Row(UINT tab, MakePage* make, Record* record, void (Record::*checkUnits)(long))
+template <class Record> OptionPage Row(UINT tab, PageRow page, Record* record, void (Record::*checkUnits)(long))
 {
-    return Row(tab, make, record, checkUnits, &Record::vOptions_Restore, &Record::vOptions_Save);
+    return Row(tab, page, record, checkUnits, &Record::vOptions_Restore, &Record::vOptions_Save);
 }
 
 /// The 4-axis page with the axis of its record. A page that is handed an axis shows the button that changes it.
@@ -81,35 +88,36 @@ std::span<const OptionPage> OptionPages()
 {
     // A further page is a further row.
     static const OptionPage pages[] = {
-        Row(IDS_TAB_2X, Make<CDefs2xPage>, GetLast2xOptions(), &C2AxisOptionsInfo::v2xOptionsCheckUnits),
-        Row(IDS_TAB_3X, Make<CDefs3xPage>, GetLast3xOptions(), &C3AxisOptionsInfo::v3xOptionsCheckUnits),
-        Row(IDS_TAB_Z_ROUGH, Make<CDefsZRoughPage>, GetLastZRoughOptions(),
+        Row(IDS_TAB_2X, kPage<CDefs2xPage>, GetLast2xOptions(), &C2AxisOptionsInfo::v2xOptionsCheckUnits),
+        Row(IDS_TAB_3X, kPage<CDefs3xPage>, GetLast3xOptions(), &C3AxisOptionsInfo::v3xOptionsCheckUnits),
+        Row(IDS_TAB_Z_ROUGH, kPage<CDefsZRoughPage>, GetLastZRoughOptions(),
             &CZRoughOptionsInfo::vZRoughOptionsCheckUnits),
-        Row(IDS_TAB_Z_FINISH, Make<CDefsZFinishPage>, GetLastZFinishOptions(),
+        Row(IDS_TAB_Z_FINISH, kPage<CDefsZFinishPage>, GetLastZFinishOptions(),
             &CZFinishOptionsInfo::vZFinishOptionsCheckUnits),
-        Row(IDS_TAB_FLAT_SURFACE, Make<CDefsFlatSurfacePage>, GetLastFlatSurfaceOptions(),
+        Row(IDS_TAB_FLAT_SURFACE, kPage<CDefsFlatSurfacePage>, GetLastFlatSurfaceOptions(),
             &CFlatSurfaceOptionsInfo::vFlatSurfaceOptionsCheckUnits),
-        Row(IDS_TAB_4X, Make4xPage, GetLast4xOptions(), &C4AxisOptionsInfo::v4xOptionsCheckUnits),
-        Row(IDS_TAB_5X, Make5xPage, GetLast5xOptions(), &C5AxisOptionsInfo::v5xOptionsCheckUnits),
-        Row(IDS_TAB_EDM, Make<CDefsEDMPage>, GetLastEDMOptions(), &CEDMOptionsInfo::vEDMOptionsCheckUnits),
-        Row(IDS_TAB_FACE_MILL, Make<CDefsFMPage>, GetLastFaceMillDefsInfo(), &CFaceMillDefsInfo::FaceMillDefsCheckUnits,
-            &CFaceMillDefsInfo::vFaceMillDefs_Restore, &CFaceMillDefsInfo::vFaceMillDefs_Save),
-        Row(IDS_TAB_CHAMFER_MILL, Make<CDefsCMPage>, GetLastChamferMillDefsInfo(),
+        Row(IDS_TAB_4X, {CDefs4xPage::IDD, Make4xPage}, GetLast4xOptions(), &C4AxisOptionsInfo::v4xOptionsCheckUnits),
+        Row(IDS_TAB_5X, {CDefs5xPage::IDD, Make5xPage}, GetLast5xOptions(), &C5AxisOptionsInfo::v5xOptionsCheckUnits),
+        Row(IDS_TAB_EDM, kPage<CDefsEDMPage>, GetLastEDMOptions(), &CEDMOptionsInfo::vEDMOptionsCheckUnits),
+        Row(IDS_TAB_FACE_MILL, kPage<CDefsFMPage>, GetLastFaceMillDefsInfo(),
+            &CFaceMillDefsInfo::FaceMillDefsCheckUnits, &CFaceMillDefsInfo::vFaceMillDefs_Restore,
+            &CFaceMillDefsInfo::vFaceMillDefs_Save),
+        Row(IDS_TAB_CHAMFER_MILL, kPage<CDefsCMPage>, GetLastChamferMillDefsInfo(),
             &CChamferMillDefsInfo::ChamferMillDefsCheckUnits, &CChamferMillDefsInfo::vChamferMillDefs_Restore,
             &CChamferMillDefsInfo::vChamferMillDefs_Save),
-        Row(IDS_TAB_ROUND_MILL, Make<CDefsRMPage>, GetLastRoundMillDefsInfo(),
+        Row(IDS_TAB_ROUND_MILL, kPage<CDefsRMPage>, GetLastRoundMillDefsInfo(),
             &CRoundMillDefsInfo::RoundMillDefsCheckUnits, &CRoundMillDefsInfo::vRoundMillDefs_Restore,
             &CRoundMillDefsInfo::vRoundMillDefs_Save),
-        Row(IDS_TAB_GROOVE_MILL, Make<CDefsGMPage>, GetLastGrooveMillDefsInfo(),
+        Row(IDS_TAB_GROOVE_MILL, kPage<CDefsGMPage>, GetLastGrooveMillDefsInfo(),
             &CGrooveMillDefsInfo::GrooveMillDefsCheckUnits, &CGrooveMillDefsInfo::vGrooveMillDefs_Restore,
             &CGrooveMillDefsInfo::vGrooveMillDefs_Save),
-        Row(IDS_TAB_SLOT_MILL, Make<CDefsSlotMillPage>, GetLastSlotMillDefsInfo(),
+        Row(IDS_TAB_SLOT_MILL, kPage<CDefsSlotMillPage>, GetLastSlotMillDefsInfo(),
             &CSlotMillDefsInfo::SlotMillDefsCheckUnits, &CSlotMillDefsInfo::vSlotMillDefs_Restore,
             &CSlotMillDefsInfo::vSlotMillDefs_Save),
-        Row(IDS_TAB_HOLES, Make<DefsHoleProcessPage>, GetLastHoleProcessDefsInfo(),
+        Row(IDS_TAB_HOLES, kPage<DefsHoleProcessPage>, GetLastHoleProcessDefsInfo(),
             &HoleProcessDefsInfo::HoleProcessDefsCheckUnits, &HoleProcessDefsInfo::HoleProcessDefs_Restore,
             &HoleProcessDefsInfo::HoleProcessDefs_Save),
-        Row(IDS_TAB_LATHE, Make<CLathePage>, GetLastLatheOptions(), &CLatheOptionsInfo::vLatheOptionsCheckUnits),
+        Row(IDS_TAB_LATHE, kPage<CLathePage>, GetLastLatheOptions(), &CLatheOptionsInfo::vLatheOptionsCheckUnits),
     };
     return pages;
 }

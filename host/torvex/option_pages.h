@@ -9,7 +9,8 @@
 
 /// One kind of operation: its page and its live record.
 struct OptionPage {
-    UINT tab; ///< string id of the tab's text: several pages share the title of their template
+    UINT tab;       ///< string id of the tab's text: several pages share the title of their template
+    int templateId; ///< of the page
     std::function<std::unique_ptr<CPropertyPage>(int units)> make; ///< the page, filled and in these units
     std::function<void()> defaults;                                ///< the record as the defaults file has it
     std::function<void()> restore;                                 ///< the record from the settings file

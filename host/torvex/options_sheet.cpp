@@ -7,10 +7,15 @@
 
 using namespace pelmar;
 
+namespace {
+constexpr UINT kGoToControl = WM_APP + 1;
+} // namespace
+
 IMPLEMENT_DYNAMIC(COptionsSheet, CPropertySheetTVEx)
 
 BEGIN_MESSAGE_MAP(COptionsSheet, CPropertySheetTVEx)
     ON_BN_CLICKED(IDC_PAGE_DEFAULTS, &COptionsSheet::OnPageDefaults)
+    ON_MESSAGE(kGoToControl, &COptionsSheet::OnGoToControl)
 END_MESSAGE_MAP()
 
 namespace {
@@ -34,10 +39,12 @@ CRect RectIn(const CWnd& parent, HWND control)
 
 } // namespace
 
-COptionsSheet::COptionsSheet(CWnd* parent, int units, Use use)
-    : CPropertySheetTVEx(Text(IDS_OPTIONS_TITLE), parent), m_use(use)
+COptionsSheet::COptionsSheet(CWnd* parent, int units, Use use, SettingPlace place)
+    : CPropertySheetTVEx(Text(IDS_OPTIONS_TITLE), parent), m_use(use), m_place(place)
 {
     for (const OptionPage& row : OptionPages()) {
+        if (row.templateId == place.templateId)
+            m_psh.nStartPage = static_cast<UINT>(GetPageCount());
         CPropertyPage& made = *m_ownPages.emplace_back(row.make(units));
         made.m_psp.pszTitle = m_tabs.emplace_back(Text(row.tab));
         made.m_psp.dwFlags |= PSP_USETITLE;
@@ -59,7 +66,19 @@ BOOL COptionsSheet::OnInitDialog()
     m_defaults.SendMessage(WM_SETFONT, static_cast<WPARAM>(SendMessage(WM_GETFONT)), TRUE);
     m_defaults.EnableWindow(m_use == Use::Edit);
     MarkAsDefaultsButton(m_defaults.m_hWnd);
+    if (m_place.controlId)
+        PostMessage(kGoToControl); // once the sheet is shown: it puts the focus on its first control
     return CPropertySheetTVEx::OnInitDialog();
+}
+
+/// A control that cannot take the focus leaves it where it is.
+LRESULT COptionsSheet::OnGoToControl(WPARAM, LPARAM)
+{
+    const CPropertyPage* const page = GetActivePage();
+    const HWND control = page ? ::GetDlgItem(page->m_hWnd, m_place.controlId) : nullptr;
+    if (control && ::IsWindowEnabled(control) && ::IsWindowVisible(control))
+        page->SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+    return 0;
 }
 
 void COptionsSheet::OnPageDefaults()

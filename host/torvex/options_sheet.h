@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <ControlLib.h>
+#include <PelmarDlgs/dialogs/settings_review.h>
 
 #include "pending_save.h"
 
@@ -19,8 +20,8 @@ public:
         Look, ///< every control is disabled and nothing is saved
     };
 
-    /// `units`: 0 inch, 1 millimetre.
-    COptionsSheet(CWnd* parent, int units, Use use);
+    /// `units`: 0 inch, 1 millimetre. `place`: the page that it opens on, with the focus in the control.
+    COptionsSheet(CWnd* parent, int units, Use use, pelmar::SettingPlace place = {});
 
     INT_PTR DoModal() override;
     BOOL OnInitDialog() override;
@@ -28,6 +29,7 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnPageDefaults();
+    LRESULT OnGoToControl(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -35,6 +37,7 @@ private:
     bool SaveRecords();
 
     Use m_use;
+    pelmar::SettingPlace m_place;
     PendingSave m_save;
     bool m_isSaved = false; ///< by the OK that is under way
     std::vector<std::unique_ptr<CPropertyPage>> m_ownPages;

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include <commctrl.h>
 #include <prsht.h>
 
 #include "host/torvex/resource.h"
@@ -87,6 +88,8 @@ void PictureOfPrompt(const Host& host, HWND window, HWND page, const std::string
     PictureOfBox(window, box, name);
     ui::Answer(box, IDOK);
     ui::Type(page, *field, before);
+    // The host reads what is typed in its own time: the page is not to be turned before it has.
+    ExpectSoon("the field shows its text again", [&] { return ui::TextOf(page, *field) == before; });
 }
 
 void Close(HWND dialog)
@@ -195,6 +198,67 @@ void PictureOfQuestion(const Host& host, HWND main)
     ExpectSoon("the dialog is closed", [&] { return !IsWindow(dialog); });
 }
 
+/// A settings file as it is after years of care: values of the shop's own, and slips.
+void SpoilSettings(const Host& host, HWND main)
+{
+    constexpr const char* kSpoilt[][3] = {
+        {"Options2x", "SideRoughStep", "0.65"},    {"Options2x", "SideRoughtStep", "0.5"},
+        {"Options2x", "CornerAngle", "20"},        {"Options2x", "SortType", "9"},
+        {"Options2x", "MaxFeedBetween", "half"},   {"Options2x", "RapidPlane", "40"},
+        {"OptionsSSheet", "ToolChangeTime", "12"}, {"OptionSSheet", "ToolChangeTime", "12"},
+    };
+    wchar_t folder[MAX_PATH];
+    GetCurrentDirectoryW(MAX_PATH, folder);
+    for (const auto& [section, key, text] : kSpoilt) {
+        const auto wide = [](const char* narrow) { return std::wstring(narrow, narrow + strlen(narrow)); };
+        WritePrivateProfileStringW(wide(section).c_str(), wide(key).c_str(), wide(text).c_str(),
+                                   (std::wstring(folder) + L"\\NCDEFAULT\\CURRENT.INI").c_str());
+    }
+    PostMessage(main, WM_COMMAND, ID_FILE_RESTART, 0);
+    ui::Answer(ui::WaitForBox(host.Id()), IDOK);
+}
+
+/// The review as it opens, with what differs only, with a value being edited, and as small as it gets.
+void PlayReview(const Host& host, HWND main)
+{
+    PostMessage(main, WM_COMMAND, ID_NC_REVIEW, 0);
+    const HWND dialog = host.WaitForWindow(L"Проверка параметров");
+    const HWND list = ui::Control(dialog, IDC_REVIEW_LIST);
+    const int all = ListView_GetItemCount(list);
+    Picture(dialog, "settings-review");
+    ui::Choose(dialog, IDC_REVIEW_FILTER, 2);
+    ExpectSoon("only what is wrong is listed", [&] { return ListView_GetItemCount(list) < all; });
+    ui::FocusOn(dialog, IDC_REVIEW_LIST);
+    ui::Press(list, VK_DOWN);
+    Picture(dialog, "settings-review-faulty");
+    ui::Choose(dialog, IDC_REVIEW_FILTER, 1);
+    ExpectSoon("only what differs is listed", [&] { return ListView_GetItemCount(list) < all; });
+    Picture(dialog, "settings-review-different");
+    ui::Choose(dialog, IDC_REVIEW_FILTER, 0);
+    ui::Type(dialog, IDC_REVIEW_SEARCH, L"Options2x.CornerAngle");
+    ExpectSoon("two options are found", [&] { return ListView_GetItemCount(list) == 2; });
+    ui::Press(ui::Control(dialog, IDC_REVIEW_SEARCH), VK_RETURN);
+    ExpectSoon("the list has the focus", [&] { return ui::Focus(dialog) == list; });
+    ui::Press(list, VK_F2);
+    ExpectSoon("the value is being edited", [&] { return GetDlgItem(list, IDC_REVIEW_CELL) != nullptr; });
+    const HWND cell = ui::Control(list, IDC_REVIEW_CELL);
+    SendMessage(cell, EM_SETSEL, 0, -1);
+    ui::TypeAt(cell, L"25");
+    ExpectSoon("the text is typed", [&] { return ui::TextOf(cell) == L"25"; });
+    Picture(dialog, "settings-review-edited");
+    ui::Press(cell, VK_RETURN);
+    const ui::MessageBoxSeen box = ui::WaitForBox(host.Id());
+    PictureOfBox(dialog, box, "settings-review-refused");
+    ui::Answer(box, IDOK);
+    ui::Press(cell, VK_ESCAPE);
+    ExpectSoon("the edit is left", [&] { return !IsWindow(cell); });
+    ui::Type(dialog, IDC_REVIEW_SEARCH, L"");
+    ExpectSoon("all is listed again", [&] { return ListView_GetItemCount(list) == all; });
+    SetWindowPos(dialog, nullptr, 0, 0, 1, 1, SWP_NOMOVE | SWP_NOZORDER);
+    Picture(dialog, "settings-review-small");
+    Close(dialog);
+}
+
 void Play()
 {
     const Host host;
@@ -202,6 +266,8 @@ void Play()
     PlayDialogs(host, main);
     PictureOfQuestion(host, main);
     PlayPages(host, main);
+    SpoilSettings(host, main);
+    PlayReview(host, main);
     PostMessage(main, WM_CLOSE, 0, 0);
     Expect(host.WaitForEnd() == 0, "the program ended well");
 }

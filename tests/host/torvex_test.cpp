@@ -1059,4 +1059,135 @@ TEST_F(Torvex, TellsWhereADamagedFileWasKeptWhenItIsFirstSaved)
     EXPECT_EQ(0u, Close());
 }
 
+// ---- the review of the settings ----
+
+/// The review, used by keyboard from its search box on.
+class TorvexReview : public Torvex {
+protected:
+    void OpenReview()
+    {
+        m_review = OpenDialog(ID_NC_REVIEW, L"Проверка параметров");
+        m_list = ui::Control(m_review, IDC_REVIEW_LIST);
+    }
+    /// Finds the one setting that a name means, and goes to its row.
+    void Find(const std::wstring& name, int expected = 1)
+    {
+        ui::Type(m_review, IDC_REVIEW_SEARCH, name);
+        ASSERT_TRUE(ui::WaitUntil([&] { return ListView_GetItemCount(m_list) == expected; }));
+        ui::Press(ui::Control(m_review, IDC_REVIEW_SEARCH), VK_RETURN);
+        ASSERT_TRUE(ui::WaitUntil([&] { return ui::Focus(m_review) == m_list; }));
+    }
+    void EditFound(const std::wstring& text)
+    {
+        ui::Press(m_list, VK_F2);
+        ASSERT_TRUE(ui::WaitUntil([&] { return GetDlgItem(m_list, IDC_REVIEW_CELL) != nullptr; }));
+        const HWND edit = ui::Control(m_list, IDC_REVIEW_CELL);
+        SendMessage(edit, EM_SETSEL, 0, -1);
+        ui::TypeAt(edit, text);
+        ASSERT_TRUE(ui::WaitUntil([&] { return ui::TextOf(edit) == text; }));
+        ui::Press(edit, VK_RETURN);
+        ASSERT_TRUE(ui::WaitUntil([&] { return !IsWindow(edit); }));
+    }
+    void GoToFound()
+    {
+        ui::Press(m_list, VK_RETURN);
+        ASSERT_TRUE(ui::WaitForClose(m_review));
+    }
+
+    HWND m_review = nullptr;
+    HWND m_list = nullptr;
+};
+
+TEST_F(TorvexReview, OkSavesAllRecordsAndShowsTheFile)
+{
+    Start();
+    OpenReview();
+    Find(L"Options2x.RapidPlane");
+    EditFound(L"1/8+0.02");
+    Find(L"OptionsSSheet.ToolChangeTime");
+    EditFound(L"7");
+    Accept(m_review);
+    EXPECT_TRUE(ComesToWrite("RapidPlane=0.145000"));
+    EXPECT_TRUE(ComesToWrite("ToolChangeTime=7.000000"));
+    for (const char* const section : {"[Options3x]", "[OptionsLathe]", "[SlotMill]"})
+        EXPECT_NE(std::string::npos, NcText().find(section)) << section;
+    EXPECT_TRUE(ui::WaitUntil(
+        [&] { return ui::TextOf(m_main, IDC_SETTINGS_TEXT).find(L"RapidPlane=0.145000") != std::wstring::npos; }));
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(TorvexReview, CancelWritesNothing)
+{
+    Start();
+    OpenReview();
+    Find(L"Options2x.RapidPlane");
+    EditFound(L"3");
+    Cancel(m_review);
+    EXPECT_FALSE(fs::exists(NcFile()));
+    OpenOptions();
+    EXPECT_EQ(L"1.0000", ui::TextOf(m_page, IDC_2X_RAPID_PLANE));
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(TorvexReview, GoingToASettingOpensItsPageWithTheFocusInItsControl)
+{
+    Start();
+    OpenReview();
+    Find(L"OptionsZRough.LeadAngleTol");
+    GoToFound();
+    m_sheet = ui::WaitForWindow(L"Параметры ЧПУ", m_process.dwProcessId);
+    FindPage();
+    const HWND control = ui::Control(m_page, IDC_POCKET_LEAD_ANGLE_TOLERANCE);
+    EXPECT_TRUE(ui::WaitUntil([&] { return ui::Focus(m_sheet) == control; }));
+    EXPECT_NE(nullptr, GetDlgItem(m_page, IDC_ZR_PLUNGE_WARNINGS)); // of this page only
+    CloseOptions(IDCANCEL);
+    OpenReview();
+    Find(L"FaceMill2x.DefCutingDir");
+    GoToFound();
+    m_sheet = ui::WaitForWindow(L"Параметры ЧПУ", m_process.dwProcessId);
+    FindPage();
+    const HWND list = ui::Control(m_page, IDC_FEATURE_CUTTING_DIRECTION);
+    EXPECT_TRUE(ui::WaitUntil([&] { return ui::Focus(m_sheet) == list; }));
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(TorvexReview, GoingToTheSetupSheetOpensItsDialogWithTheFocusInItsControl)
+{
+    Start();
+    OpenReview();
+    Find(L"OptionsSSheet.ToolChangeTime");
+    GoToFound();
+    const HWND frame = ui::WaitForWindow(L"Создание отчета", m_process.dwProcessId);
+    HWND inside = nullptr;
+    for (const HWND child : ui::Children(frame))
+        if (ui::ClassOf(child) == L"#32770")
+            inside = child;
+    ASSERT_NE(nullptr, inside);
+    EXPECT_TRUE(ui::WaitUntil([&] { return ui::Focus(frame) == ui::Control(inside, IDC_SHEET_TOOL_CHANGE_TIME); }));
+    Cancel(frame);
+    EXPECT_EQ(0u, Close());
+}
+
+TEST_F(TorvexReview, AReviewThatCouldNotBeSavedStaysOpenUntilItIs)
+{
+    WriteNcFile(L"CURRENT.INI", "[Options2x]\r\nUnits=0\r\nRapidPlane=2.000000\r\n");
+    Start();
+    OpenReview();
+    Find(L"Options2x.RapidPlane");
+    EditFound(L"3");
+    {
+        const HeldFile held(NcFile());
+        ui::Click(m_review, IDOK);
+        const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+        ui::Answer(box, box.buttons.back());
+        EXPECT_TRUE(IsWindow(m_review));
+    }
+    EXPECT_NE(std::string::npos, NcText().find("RapidPlane=2.000000"));
+    Accept(m_review);
+    EXPECT_TRUE(ComesToWrite("RapidPlane=3.000000"));
+    EXPECT_EQ(0u, Close());
+}
+
 } // namespace

@@ -46,6 +46,13 @@ std::vector<Entry> SaneEntries()
         {"DefaultPath", "ToolpathTemplatesPath", "C:\\Templates"},
         {"DefaultPath", "NCDefaultPath", "C:\\NC"},
         {"DefaultPath", "Other", "kept"},
+        {"Options2x", "Units", "0"},
+        {"Options2x", "RapidPlane", "1.000000"},
+        {"SettingsReview", "Width", "800"},
+        {"SettingsReview", "Height", "600"},
+        {"SettingsReview", "Columns", "100,100,100,100,100"},
+        {"SettingsReview", "Order", "2"},
+        {"SettingsReview", "Shown", "1"},
     };
 }
 
@@ -114,6 +121,12 @@ template <> bool IsOwn<CDefsSetupsheet>(const Entry& entry)
     return entry.section == "OptionsSSheet" && entry.key != "Other";
 }
 
+/// A window's memory is written when it closes.
+template <> bool IsOwn<CSettingsReviewDlg>(const Entry& entry)
+{
+    return entry.section == "SettingsReview";
+}
+
 /// The entries that are not the dialog's, without the blanks that the platform drops when it writes the file anew.
 template <class Dialog> std::string OthersOf(const std::vector<Entry>& entries)
 {
@@ -177,7 +190,8 @@ protected:
     HMODULE kept = LoadLibraryA("PELMAR.dll"); // as a host does
 };
 
-using Dialogs = testing::Types<CDefsNCDefaultsDlg, CDefsNCToolsDlg, CNCDefaultPath, CTemplateOptions, CDefsSetupsheet>;
+using Dialogs = testing::Types<CDefsNCDefaultsDlg, CDefsNCToolsDlg, CNCDefaultPath, CTemplateOptions, CDefsSetupsheet,
+                               CSettingsReviewDlg>;
 TYPED_TEST_SUITE(HostileDialog, Dialogs);
 
 TYPED_TEST(HostileDialog, WritesNothingThatTheUserDidNotAccept)

@@ -194,6 +194,19 @@ TEST(SoakOfDialogs, ToolpathTemplatesLeaveNothing)
     FreeLibrary(kept);
 }
 
+TEST(SoakOfDialogs, TheReviewOfTheSettingsLeavesNothing)
+{
+    Soak<CSettingsReviewDlg>([](CSettingsReviewDlg& dialog) {
+        dialog.SetDlgItemText(IDC_REVIEW_SEARCH, L"Options2x.CornerAngle");
+        ListView_SetItemState(::GetDlgItem(dialog.m_hWnd, IDC_REVIEW_LIST), 0, LVIS_SELECTED | LVIS_FOCUSED,
+                              LVIS_SELECTED | LVIS_FOCUSED);
+        dialog.SendMessage(WM_COMMAND, IDC_REVIEW_EDIT);
+        dialog.SendMessage(WM_COMMAND, IDC_REVIEW_COPY);
+        dialog.SendMessage(WM_COMMAND, IDC_REVIEW_TAKE);
+        dialog.SetData();
+    });
+}
+
 TEST(SoakOfDialogs, TheSetupSheetLeavesNothing)
 {
     SoakInside<CDefsSetupsheet>([](CDefsSetupsheet& dialog) {
