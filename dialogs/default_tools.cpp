@@ -311,13 +311,10 @@ void CDefsNCToolsDlg::OnCancel()
     CNCDialog::OnCancel();
 }
 
+/// Hosts know it under this name.
 LRESULT CDefsNCToolsDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    WatchForContextHelp(message, wParam);
-    if (message != WM_HELP)
-        return CNCDialog::WindowProc(message, wParam, lParam);
-    OnHelp();
-    return 1;
+    return CNCDialog::WindowProc(message, wParam, lParam);
 }
 
 void CDefsNCToolsDlg::OnHelp()

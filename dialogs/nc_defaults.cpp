@@ -11,6 +11,7 @@
 #include "frame/profile.h"
 #include "frame/tool_library.h"
 #include "pages/page_controls.h"
+#include "pages/tips.h"
 #include "records/global_settings.h"
 #include "resources/resource.h"
 
@@ -66,6 +67,21 @@ void ReadTolerances(NCDefaults& values)
         ReadDefaultReal(kParameterSection, global_key::kArcTolerance, values.filterArcTolerance);
 }
 
+/// What Defaults bring, but the classic 3-axis mode, which has none in a file.
+void ReadDefaults(NCDefaults& values)
+{
+    values.displayMode = ReadHostDefault(kDisplayMode);
+    values.menuIcons = IsOne(ReadHostDefault(kMenuIcons));
+    values.defToLastMaterial = IsOne(ReadDefaultWhole(global_section::kStartUp, global_key::kLastMaterial, 0));
+    values.defToLastTool = IsOne(ReadDefaultWhole(global_section::kStartUp, global_key::kLastTool, 0));
+    values.defToLastCutControl = IsOne(ReadDefaultWhole(global_section::kStartUp, global_key::kLastCutControl, 0));
+    values.alphanumericProgramName = IsOne(ReadDefaultWhole(global_section::kSettings, global_key::kProgramName, 0));
+    values.calculateMinimumZ =
+        Normalised(ReadDefaultWhole(global_section::kSettings, global_key::kDialogBits, 0) & kMinimumZBit);
+    values.filterSpans = Normalised(ReadDefaultWhole(kParameterSection, global_key::kFilterSpans, values.filterSpans));
+    ReadTolerances(values);
+}
+
 void WriteSpanFilter(const NCDefaults& values, const char* maxSpanKey)
 {
     WriteWhole(kParameterSection, global_key::kFilterSpans, values.filterSpans);
@@ -87,7 +103,7 @@ constexpr int kEveryGroup = 0;
 static_assert(int{CDefsNCDefaultsDlg::IDD} == IDD_NC_DEFAULTS);
 
 /// What the dialog edits.
-class pelmar::NCDefaultsState {
+class pelmar::NCDefaultsState final : public TipSource {
 public:
     explicit NCDefaultsState(CDefsNCDefaultsDlg& dialog) : m_dialog(dialog) {}
 
@@ -130,7 +146,16 @@ public:
         m_dialog.UpdateData(FALSE);
     }
 
+    const PageFacts& Facts() const override { return kNCDefaultsPage; }
+    TipData DataForTips() override
+    {
+        const auto factory = std::make_shared<NCDefaults>();
+        ReadDefaults(*factory);
+        return {&values, factory};
+    }
+
     ExpressionEdits edits;
+    Tips tips{*this};
     NCDefaults values;
     int displayModeAtOpening = 0;
     int menuIconsAtOpening = 0;
@@ -228,29 +253,17 @@ void CDefsNCDefaultsDlg::DoDataExchange(CDataExchange* exchange)
     ExchangeControls(exchange, &m_state->values, kNCDefaultsPage.controls);
 }
 
+/// Hosts know it under this name.
 LRESULT CDefsNCDefaultsDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    WatchForContextHelp(message, wParam);
     return CNCDialog::WindowProc(message, wParam, lParam);
 }
 
 LRESULT CDefsNCDefaultsDlg::SetDefaults(WPARAM, LPARAM)
 {
     const FilesAsOfNow files;
-    m_state->values.displayMode = ReadHostDefault(kDisplayMode);
-    m_state->values.menuIcons = IsOne(ReadHostDefault(kMenuIcons));
-    m_state->values.defToLastMaterial = IsOne(ReadDefaultWhole(global_section::kStartUp, global_key::kLastMaterial, 0));
-    m_state->values.defToLastTool = IsOne(ReadDefaultWhole(global_section::kStartUp, global_key::kLastTool, 0));
-    m_state->values.defToLastCutControl =
-        IsOne(ReadDefaultWhole(global_section::kStartUp, global_key::kLastCutControl, 0));
-    m_state->values.alphanumericProgramName =
-        IsOne(ReadDefaultWhole(global_section::kSettings, global_key::kProgramName, 0));
-    m_state->values.calculateMinimumZ =
-        Normalised(ReadDefaultWhole(global_section::kSettings, global_key::kDialogBits, 0) & kMinimumZBit);
+    ReadDefaults(m_state->values);
     m_state->values.classic3Axis = IsOne(ReadHostWhole(kParameterSection, kClassic3Axis, 0));
-    m_state->values.filterSpans =
-        Normalised(ReadDefaultWhole(kParameterSection, global_key::kFilterSpans, m_state->values.filterSpans));
-    ReadTolerances(m_state->values);
     m_state->EnableTolerances();
     UpdateData(FALSE);
     m_state->needsRestart = true;
@@ -298,6 +311,12 @@ void CDefsNCDefaultsDlg::OnBnClickedCheckFilterSpans()
 {
     UpdateData(TRUE);
     m_state->EnableTolerances();
+}
+
+BOOL CDefsNCDefaultsDlg::PreTranslateMessage(MSG* message)
+{
+    m_state->tips.Watch(*this, *message);
+    return CNCDialog::PreTranslateMessage(message);
 }
 
 void CDefsNCDefaultsDlg::OnHelp()

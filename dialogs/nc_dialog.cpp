@@ -1,15 +1,11 @@
 #include "PelmarDlgs/dialogs/nc_dialog.h"
 
 #include "dialogs/restart_question.h"
+#include "frame/help_viewer.h"
 #include "frame/module.h"
 #include "resources/resource.h"
 
 namespace pelmar {
-
-namespace {
-/// The low bits of a system command are the system's own.
-constexpr WPARAM kSystemCommandMask = 0xFFF0;
-} // namespace
 
 INT_PTR CNCDialog::DoModal()
 {
@@ -32,8 +28,23 @@ BOOL CNCDialog::OnNcCreate(CREATESTRUCTW* create)
 void CNCDialog::WatchForContextHelp(UINT message, WPARAM wParam)
 {
     CWinApp* const application = AfxGetApp();
-    if (application && message == WM_SYSCOMMAND && (wParam & kSystemCommandMask) == SC_CONTEXTHELP)
+    if (application && CaptionHelp::IsClickOn(message, wParam))
         application->m_bHelpMode = TRUE;
+}
+
+BOOL CNCDialog::PreTranslateMessage(MSG* message)
+{
+    return CaptionHelp::Takes(*this, *message) || CDialog::PreTranslateMessage(message);
+}
+
+LRESULT CNCDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_HELP) {
+        AskForHelp(*this);
+        return TRUE;
+    }
+    const CaptionHelp help(*this, message, wParam);
+    return CDialog::WindowProc(message, wParam, lParam);
 }
 
 bool AskToStoreUntilRestart()

@@ -4,6 +4,7 @@
 #include "frame/module.h"
 #include "pages/field_leaving.h"
 #include "pages/page_controls.h"
+#include "pages/tips.h"
 #include "records/record_kind.h"
 
 using namespace pelmar;
@@ -24,7 +25,7 @@ constexpr int kOutputs[] = {IDC_SHEET_TOOLING, IDC_SHEET_TOOLING_GRAPHICS, IDC_S
 static_assert(int{CDefsSetupsheet::IDD} == IDD_SETUP_SHEET);
 
 /// What the dialog edits.
-class pelmar::SetupSheetState {
+class pelmar::SetupSheetState final : public TipSource {
 public:
     explicit SetupSheetState(CDefsSetupsheet& dialog) : m_dialog(dialog) {}
 
@@ -57,8 +58,17 @@ public:
         hasNewStyle = false;
     }
 
+    const PageFacts& Facts() const override { return kSetupSheetPage; }
+    TipData DataForTips() override
+    {
+        const auto factory = std::make_shared<Record>(options);
+        factory->vOptions_Defaults();
+        return {&options, factory, options.Units};
+    }
+
     ExpressionEdits edits;
     FieldLeaving leaving;
+    Tips tips{*this};
     CComboBox styles;
     Record options;
     bool hasNewStyle = false; ///< the defaults brought it; the controls do not show it yet
@@ -104,6 +114,12 @@ void CDefsSetupsheet::DoDataExchange(CDataExchange* exchange)
     ExchangeControls(exchange, &m_state->options, kSetupSheetPage.controls);
     if (!exchange->m_bSaveAndValidate && m_state->hasNewStyle)
         m_state->ShowStyle();
+}
+
+BOOL CDefsSetupsheet::PreTranslateMessage(MSG* message)
+{
+    m_state->tips.Watch(*this, *message);
+    return CNCDialog::PreTranslateMessage(message);
 }
 
 void CDefsSetupsheet::OnCancel()

@@ -499,11 +499,8 @@ void CTemplateOptions::OnHelp()
     ShowHelp(*this, GetCurrentMessage()->pt, GetHelpInfo(0), {});
 }
 
+/// Hosts know it under this name.
 LRESULT CTemplateOptions::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    WatchForContextHelp(message, wParam);
-    if (message != WM_HELP)
-        return CNCDialog::WindowProc(message, wParam, lParam);
-    OnHelp();
-    return 1;
+    return CNCDialog::WindowProc(message, wParam, lParam);
 }

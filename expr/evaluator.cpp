@@ -7,6 +7,7 @@
 #include <limits>
 #include <string_view>
 
+#include "expr/field_preview.h"
 #include "expr/power.h"
 #include "frame/number_text.h"
 
@@ -402,6 +403,15 @@ int EvalFieldReal(const char* text, double* result)
 {
     const char* const field = FieldText(text);
     return field && EvalExpressionReal(field, result) == 0;
+}
+
+std::optional<double> pelmar::PreviewFieldReal(const char* text)
+{
+    const bool modeBefore = g_integerMode;
+    double value = 0;
+    const bool evaluated = EvalFieldReal(text, &value) != 0;
+    g_integerMode = modeBefore;
+    return evaluated ? std::optional(value) : std::nullopt;
 }
 
 int EvalFieldInt(const char* text, int* result)

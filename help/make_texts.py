@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the topics' first sentences and drawings as a table for the library.
+"""Writes the topics' first sentences, what they say of lists' items, and drawings as tables for the library.
 
 usage: make_texts.py HEADER
 """
@@ -15,7 +15,9 @@ def quoted(text):
 
 def write_table(header):
     # Numbers are inserted into pages only: the library's tips have them from its own tables.
-    found = sources.topics(sources.strings() | {"inch_to_millimetre": "…"})
+    strings = sources.strings()
+    found = sources.topics(strings | {"inch_to_millimetre": "…"})
+    titles = {topic.name: topic.title for topic in found.values()}
     rows = []
     for topic in found.values():
         rows.append((topic.name, "", topic.head))
@@ -24,6 +26,11 @@ def write_table(header):
     for name, label, part in rows:
         drawing = quoted("HELP_" + part.drawing) if part.drawing else "nullptr"
         lines.append(f"    {{{quoted(name)}, {quoted(label)}, {quoted(part.first_sentence)}, {drawing}}},")
+    lines += ["};", "constexpr ItemText kItemTexts[] = {"]
+    for name, label, part in rows:
+        for item in sorted(set(strings.values())):
+            if sentence := part.sentence_on(item, titles):
+                lines.append(f"    {{{quoted(name)}, {quoted(label)}, {quoted(item)}, {quoted(sentence)}}},")
     pathlib.Path(header).write_text("\n".join(lines) + "\n};\n", "utf-8")
 
 

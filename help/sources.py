@@ -101,13 +101,21 @@ class Part:
         """Without lists and drawings."""
         return [p for p in re.split(r"\n\s*\n", self.markdown) if p and not re.match(r"[-!|#]", p)]
 
+    def sentences(self, titles=None):
+        """Without marks; links have words of their own or the other topic's title, where the titles are given."""
+        titled = [re.sub(r"\[\]\(([^)]*)\)", lambda link: f"«{titles[link[1]]}»" if titles else "", p)
+                  for p in self.paragraphs]
+        # An item's text may hold a full stop itself.
+        sentence = re.compile(r"(?:«[^»]*»|[.!?](?=\S)|[^.!?«])+[.!?]?")
+        return [found.strip() for p in titled for found in sentence.findall(plain(p))]
+
     @property
     def first_sentence(self):
-        if not self.paragraphs:
-            return ""
-        text = plain(self.paragraphs[0])
-        end = re.search(r"[.!?](?=\s|$)", text)
-        return text[:end.end()] if end else text
+        return self.sentences()[0] if self.paragraphs else ""
+
+    def sentence_on(self, item, titles):
+        """The first sentence that says something of a list's item; none where no sentence names it."""
+        return next((sentence for sentence in self.sentences(titles) if f"«{item}»" in sentence), None)
 
 
 def plain(markdown):

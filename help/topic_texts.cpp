@@ -13,6 +13,14 @@ struct TopicText {
     const char* drawing;
 };
 
+/// A sentence that names an item of a list.
+struct ItemText {
+    std::string_view topic;
+    std::string_view label; ///< empty: the topic's head
+    std::string_view item;
+    std::string_view sentence;
+};
+
 #include "topic_table.h"
 
 /// The part under the label, else the head; null where there is no such topic.
@@ -33,6 +41,17 @@ std::string_view FirstSentenceOf(std::string_view topic, std::string_view label)
 {
     const TopicText* const text = TextOf(topic, label);
     return text ? text->sentence : std::string_view();
+}
+
+std::string_view SentenceOnItem(std::string_view topic, std::string_view label, std::string_view item)
+{
+    const TopicText* const text = TextOf(topic, label);
+    if (!text)
+        return {};
+    const auto found = std::ranges::find_if(kItemTexts, [&](const ItemText& row) {
+        return row.topic == topic && row.label == text->label && row.item == item;
+    });
+    return found == std::end(kItemTexts) ? std::string_view() : found->sentence;
 }
 
 const char* DrawingOf(std::string_view topic, std::string_view label)

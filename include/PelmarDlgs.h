@@ -13,6 +13,7 @@
 #include "PelmarDlgs/dialogs/template_options.h"
 #include "PelmarDlgs/evaluator.h"
 #include "PelmarDlgs/expression_edits.h"
+#include "PelmarDlgs/help.h"
 #include "PelmarDlgs/leaving.h"
 #include "PelmarDlgs/library.h"
 #include "PelmarDlgs/messages.h"

@@ -1,6 +1,7 @@
 #include "PelmarDlgs/pages/lathe_axes.h"
 
 #include "frame/module.h"
+#include "pages/lathe_controls.h"
 #include "pages/page_controls.h"
 #include "resources/resource.h"
 
@@ -59,6 +60,7 @@ IMPLEMENT_DYNAMIC(CLatheInputDisplayPage, CPropertyPageTVEx)
 
 BEGIN_MESSAGE_MAP(CLatheInputDisplayPage, CPropertyPageTVEx)
     ON_BN_CLICKED(IDC_LATHE_AXES_ACTIVE, &CLatheInputDisplayPage::OnActiveAtStartup)
+    ON_COMMAND(ID_HELP, &CLatheInputDisplayPage::OnHelp)
 END_MESSAGE_MAP()
 
 /// The mode as the page edits it.
@@ -95,7 +97,7 @@ CLatheInputDisplayPage::CLatheInputDisplayPage(LatheAxisUse use)
     : CPropertyPageTVEx(IDD), m_editor(new LatheAxisEditor(use))
 {
     m_psp.hInstance = ModuleInstance();
-    m_psp.dwFlags &= ~DWORD{PSP_HASHELP}; // the help file has no topic on it
+    m_psp.dwFlags &= ~DWORD{PSP_HASHELP}; // the lathe's topic tells of it, which its page has a button for
 }
 
 CLatheInputDisplayPage::~CLatheInputDisplayPage()
@@ -157,6 +159,11 @@ void CLatheInputDisplayPage::OnOK()
         StoreSelection(*this, kLabelLists[axis], m_editor->working.labels[axis]);
     m_mode = m_editor->working;
     CPropertyPageTVEx::OnOK();
+}
+
+void CLatheInputDisplayPage::OnHelp()
+{
+    ShowHelp(*this, GetCurrentMessage()->pt, kLathePage.topic, {});
 }
 
 // ---- the sheet ----

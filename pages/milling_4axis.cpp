@@ -8,10 +8,6 @@ using namespace pelmar;
 namespace {
 using Record = C4AxisOptionsInfo;
 
-/// The coordinates of the axis in the record, in the axis's order.
-constexpr double Record::*kAxisFields[] = {&Record::StartPX, &Record::StartPY, &Record::StartPZ,
-                                           &Record::EndPX,   &Record::EndPY,   &Record::EndPZ};
-
 /// Whether the points determine an axis.
 bool AreApart(const AxisPoints& axis)
 {
@@ -35,17 +31,14 @@ public:
             axis[coordinate] = record.*kAxisFields[coordinate];
         return axis;
     }
-    void SetAxis(const AxisPoints& axis) override
-    {
-        for (size_t coordinate = 0; coordinate < axis.size(); ++coordinate)
-            record.*kAxisFields[coordinate] = axis[coordinate];
-    }
+    void SetAxis(const AxisPoints& axis) override { SetAxisOf(record, axis); }
     /// Points that coincide make no axis: the old one stays.
     void TakeAxisOfDialog(INT_PTR result, const AxisPoints& axis) override
     {
         if (result == IDOK && AreApart(axis))
             SetAxis(axis);
     }
+    std::shared_ptr<const void> RecordWithFactoryAxis() override { return DataForTips().factory; }
 };
 } // namespace
 

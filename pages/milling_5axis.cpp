@@ -15,6 +15,7 @@ public:
     void SetAxis(const AxisPoints& axis) override { m_axis = axis; }
     /// The page follows the dialog, whatever it holds and whichever button closed it.
     void TakeAxisOfDialog(INT_PTR, const AxisPoints& axis) override { m_axis = axis; }
+    std::shared_ptr<const void> RecordWithFactoryAxis() override { return nullptr; }
 
 private:
     AxisPoints m_axis{};

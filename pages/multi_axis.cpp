@@ -141,6 +141,7 @@ void CMultiAxisPage::OnRotaryOptions()
     AxisHolder& holder = AxisOf(Binding());
     CDefsRotaryMillDlg dialog(this);
     dialog.m_axis = holder.Axis();
+    dialog.m_recordWithFactoryAxis = [&holder] { return holder.RecordWithFactoryAxis(); };
     const INT_PTR result = dialog.DoModal();
     holder.TakeAxisOfDialog(result, dialog.m_axis);
 }

@@ -14,6 +14,8 @@ public:
     virtual void SetAxis(const AxisPoints& axis) = 0;
     /// The rotary dialog has been closed: takes its axis or leaves it. `result`: of the dialog's DoModal.
     virtual void TakeAxisOfDialog(INT_PTR result, const AxisPoints& axis) = 0;
+    /// A C4AxisOptionsInfo with the axis that Defaults bring; null where they bring none.
+    virtual std::shared_ptr<const void> RecordWithFactoryAxis() = 0;
 
     bool hidesRotaryOptions = false;
 

@@ -4,6 +4,7 @@
 #include "PelmarDlgs/pages/record_page.h"
 #include "pages/field_leaving.h"
 #include "pages/page_controls.h"
+#include "pages/tips.h"
 #include "records/record_kind.h"
 
 namespace pelmar {
@@ -17,9 +18,9 @@ struct Occasion {
     bool IsChoiceOf(int id) const { return kind == Choice && control == id; }
 };
 
-class PageBinding {
+class PageBinding : public TipSource {
 public:
-    explicit PageBinding(const PageFacts& facts) : m_facts(facts) {}
+    explicit PageBinding(const PageFacts& facts) : m_facts(facts), m_tips(*this) {}
     virtual ~PageBinding() = default;
     PageBinding(const PageBinding&) = delete;
     PageBinding& operator=(const PageBinding&) = delete;
@@ -43,6 +44,9 @@ public:
     void GiveUp() { m_leaving.GiveUp(); }
     /// Shows the defaults that the copy has taken, where the page does so at once.
     virtual void ShowDefaults(CExpRegenPropertyPage& page);
+    /// For the messages of the page and its controls, before they are dispatched.
+    void WatchForTips(const CWnd& page, const MSG& message) { m_tips.Watch(page, message); }
+    const PageFacts& Facts() const override { return m_facts; }
     void ShowHelp(const CWnd& page, CPoint position) const
     {
         pelmar::ShowHelp(page, position, m_facts.topic, m_facts.controls);
@@ -71,6 +75,7 @@ private:
     const PageFacts& m_facts;
     ExpressionEdits m_edits;
     FieldLeaving m_leaving;
+    Tips m_tips;
     bool m_isReadOnly = false;
 };
 
@@ -91,6 +96,12 @@ public:
     void TakeLive(int hostUnits) override { record = Kind().LiveInUnitsOf(hostUnits); }
     void PutBack() const override { *Kind().Live() = record; }
     void TakeDefaults() override { Kind().TakeDefaults(record); }
+    TipData DataForTips() override
+    {
+        const auto factory = std::make_shared<R>(record);
+        Kind().TakeDefaults(*factory);
+        return {&record, factory, record.Units};
+    }
 
     R record;
 

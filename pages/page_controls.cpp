@@ -11,11 +11,6 @@
 namespace pelmar {
 namespace {
 
-CString TextOf(const ChoiceText& text)
-{
-    return text.literal ? CString(text.literal) : LoadText(text.id);
-}
-
 void ExchangeChecked(CDataExchange* exchange, const void* record, const Control& control, double& value)
 {
     const Option& checked = control.checkedInstead ? *control.checkedInstead : *control.option;
@@ -98,6 +93,11 @@ void ExchangeControl(CDataExchange* exchange, void* record, const Control& contr
 
 } // namespace
 
+CString TextOfChoice(const ChoiceText& text)
+{
+    return text.literal ? CString(text.literal) : LoadText(text.id);
+}
+
 void EnableControl(const CWnd& page, int id, bool enable)
 {
     if (const HWND control = ControlOf(page, id))
@@ -116,7 +116,7 @@ void FillList(const CWnd& page, int id, ChoiceTexts texts)
     if (!list || SendMessage(list, CB_GETCOUNT, 0, 0) > 0)
         return;
     for (const ChoiceText& text : texts)
-        SendMessage(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(TextOf(text).GetString()));
+        SendMessage(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(TextOfChoice(text).GetString()));
 }
 
 void SelectIndex(const CWnd& page, int id, int index)

@@ -23,6 +23,7 @@ inline HWND ControlOf(const CWnd& page, int id)
 
 void EnableControl(const CWnd& page, int id, bool enable);
 void HideControl(const CWnd& page, int id);
+CString TextOfChoice(const ChoiceText& text);
 /// Fills an empty list; a filled one keeps its items.
 void FillList(const CWnd& page, int id, ChoiceTexts texts);
 /// Selects nothing where the list has no such item.

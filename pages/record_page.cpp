@@ -54,6 +54,12 @@ void CRecordPage::OnReset()
     CExpRegenPropertyPage::OnReset();
 }
 
+BOOL CRecordPage::PreTranslateMessage(MSG* message)
+{
+    m_binding->WatchForTips(*this, *message);
+    return CExpRegenPropertyPage::PreTranslateMessage(message);
+}
+
 void CRecordPage::Handle(ControlRow row)
 {
     m_binding->Handle(*this, row.Id());

@@ -91,6 +91,31 @@ void CDefsRotaryMillDlg::OnKillFEndZ()
     LeaveEdit(5);
 }
 
+const PageFacts& CDefsRotaryMillDlg::Facts() const
+{
+    return kRotaryPage;
+}
+
+TipData CDefsRotaryMillDlg::DataForTips()
+{
+    SetAxisOf(m_record, m_axis);
+    return {.record = &m_record, .factory = m_recordWithFactoryAxis ? m_recordWithFactoryAxis() : nullptr};
+}
+
+BOOL CDefsRotaryMillDlg::PreTranslateMessage(MSG* message)
+{
+    m_tips.Watch(*this, *message);
+    return CDialog::PreTranslateMessage(message);
+}
+
+LRESULT CDefsRotaryMillDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message != WM_HELP)
+        return CDialog::WindowProc(message, wParam, lParam);
+    AskForHelp(*this);
+    return TRUE;
+}
+
 void CDefsRotaryMillDlg::OnHelp()
 {
     EndHelpMode(*this, {});

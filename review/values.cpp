@@ -1,29 +1,11 @@
 #include "review/values.h"
 
-#include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
-#include <limits>
-
 #include "PelmarDlgs/settings_values.h"
+#include "records/shown_value.h"
 #include "resources/resource.h"
 
 namespace pelmar::review {
 namespace {
-
-std::string Printed(float number)
-{
-    std::array<char, 64> text{};
-    const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-    return {text.data(), end};
-}
-
-/// Whatever a record holds: what is too large for single precision is shown as the largest.
-float Single(double number)
-{
-    return static_cast<float>(std::clamp(number, -kUnbounded, kUnbounded));
-}
 
 std::string_view TextIn(const SettingsText& settings, const SettingsText& defaults, const Setting& setting)
 {
@@ -128,13 +110,6 @@ std::size_t Values::IndexOf(const RecordDescription& record)
     return static_cast<std::size_t>(&record - DescribeRecords().data());
 }
 
-bool IsSameNumber(double one, double other)
-{
-    constexpr double kStoredStep = 5.1e-7; // half of the sixth decimal
-    constexpr double kSingleStep = 5e-7;   // of the value, some steps of single precision
-    return std::abs(one - other) <= std::max(kStoredStep, kSingleStep * std::max(std::abs(one), std::abs(other)));
-}
-
 bool IsSameValue(const Setting& setting, const Values& one, const Values& other)
 {
     if (setting.IsText())
@@ -149,7 +124,7 @@ bool IsSameValue(const Setting& setting, const Values& one, const Values& other)
 std::string ShownNumber(const Setting& setting, double number, const Words& words)
 {
     if (setting.IsReal())
-        return Printed(Single(std::abs(number) < 5e-10 ? 0.0 : number));
+        return ShownReal(number);
     const int whole = static_cast<int>(number);
     if (setting.option->kind == OptionKind::Switch)
         return words.ofString(setting.option->IsOn(whole) ? IDS_YES : IDS_NO);
@@ -170,23 +145,10 @@ std::string ShownValue(const Setting& setting, const Values& values, const Words
 
 std::string ShownUnit(const Setting& setting, const Values& values)
 {
-    switch (setting.option->kind) {
-    case OptionKind::Angle:
-        return "°";
-    case OptionKind::Percent:
-        return "%";
-    case OptionKind::Length:
-    case OptionKind::Feed:
-        break;
-    default:
-        return "";
-    }
+    const bool isLength = setting.option->kind == OptionKind::Length || setting.option->kind == OptionKind::Feed;
     if (!setting.record)
-        return "";
-    if (setting.option->scaling == Scaling::WhileConstant && !values.IsScaled(setting))
-        return "× R";
-    const std::string length = values.Units(*setting.record) == kInch ? "дюйм" : "мм";
-    return setting.option->kind == OptionKind::Feed ? length + "/мин" : length;
+        return isLength ? "" : pelmar::ShownUnit(*setting.option, kInch, false);
+    return pelmar::ShownUnit(*setting.option, values.Units(*setting.record), values.IsScaled(setting));
 }
 
 std::string WithUnit(const std::string& value, const std::string& unit)
@@ -198,14 +160,7 @@ std::string WithUnit(const std::string& value, const std::string& unit)
 
 std::string ShownRange(const Setting& setting)
 {
-    const Range& range = setting.option->range;
-    const bool isBoundBelow = range.low > -kUnbounded;
-    const bool isBoundAbove = range.high < kUnbounded;
-    if (isBoundBelow && isBoundAbove)
-        return "от " + Printed(Single(range.low)) + " до " + Printed(Single(range.high));
-    if (isBoundBelow)
-        return "не меньше " + Printed(Single(range.low));
-    return isBoundAbove ? "не больше " + Printed(Single(range.high)) : "";
+    return pelmar::ShownRange(setting.option->range);
 }
 
 std::vector<Difference> Differences(const Values& values, const Values& compared, const Words& words)

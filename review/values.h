@@ -52,9 +52,6 @@ private:
     std::vector<std::string> m_texts;
 };
 
-/// Whether two numbers are the same as far as files can tell: six decimals, single precision, a conversion there and
-/// back.
-bool IsSameNumber(double one, double other);
 bool IsSameValue(const Setting& setting, const Values& one, const Values& other);
 
 /// A value as people read it: an item's text, yes or no, a number without needless digits.

@@ -7,6 +7,7 @@ using namespace pelmar;
 BEGIN_MESSAGE_MAP(CDialogFrame, CDialog)
     ON_BN_CLICKED(IDC_PAGE_DEFAULTS, &CDialogFrame::OnDefaults)
     ON_COMMAND(ID_HELP, &CDialogFrame::OnHelp)
+    ON_WM_HELPINFO()
 END_MESSAGE_MAP()
 
 CDialogFrame::CDialogFrame(CWnd* parent, FramedDialog framed)
@@ -81,4 +82,10 @@ void CDialogFrame::OnDefaults()
 void CDialogFrame::OnHelp()
 {
     m_framed.dialog.SendMessage(WM_COMMAND, ID_HELP);
+}
+
+/// Help that is asked for on the frame's own buttons is the dialog's.
+BOOL CDialogFrame::OnHelpInfo(HELPINFO* info)
+{
+    return m_framed.dialog.SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(info)) != 0;
 }

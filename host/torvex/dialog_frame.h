@@ -30,6 +30,7 @@ protected:
     void OnOK() override;
     void OnDefaults();
     void OnHelp();
+    BOOL OnHelpInfo(HELPINFO* info);
     DECLARE_MESSAGE_MAP()
 
 private:

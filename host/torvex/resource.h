@@ -49,6 +49,9 @@
 #define IDS_WHAT_TOOL_LISTS 248
 #define IDS_WHAT_UNITS 249
 
+#define IDS_NO_HELP_FILE 256   // %1 file
+#define IDS_NO_HELP_VIEWER 257 // %1 file
+
 #define IDS_TAB_2X 210
 #define IDS_TAB_3X 211
 #define IDS_TAB_Z_ROUGH 212

@@ -4,6 +4,7 @@
 #include <PelmarDlgs.h>
 #include <afxwin.h>
 
+#include "help_report.h"
 #include "main_frame.h"
 #include "settings.h"
 
@@ -30,6 +31,7 @@ public:
         // Loaded as long as the program runs: its lists outlive the calls that hand them out.
         LoadLibrary(L"PELMAR.dll");
         StartNcModule();
+        TellWhereHelpIsMissing();
 
         auto* const frame = new CMainFrame;
         m_pMainWnd = frame;

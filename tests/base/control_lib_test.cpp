@@ -8,9 +8,7 @@ namespace {
 
 constexpr UINT kTemplate = 1000;
 constexpr int kEdit = 1001;
-constexpr UINT kKeyF1 = 0x004D; // what the system posts when F1 goes down
-constexpr int kHelpButton = 9;  // the sheet's own
-constexpr int kDown = 0x80;
+constexpr int kHelpButton = 9; // the sheet's own
 
 CWinApp g_application(L"Host tests");
 
@@ -42,21 +40,6 @@ protected:
         EXPECT_TRUE(ui::UiThread::Get().WaitForStarted());
     }
 
-    /// Presses F1 in `control` while `shift` is down or not, as the system reports it to the window.
-    void PressF1(HWND control, bool shift)
-    {
-        ui::UiThread::Get().Call([&] {
-            BYTE before[256];
-            GetKeyboardState(before);
-            BYTE pressed[256]{};
-            pressed[VK_F1] = kDown;
-            pressed[VK_SHIFT] = shift ? kDown : 0;
-            SetKeyboardState(pressed);
-            SendMessage(control, kKeyF1, 0, 0);
-            SetKeyboardState(before);
-        });
-    }
-
     void PointWithQuestionMark(int id)
     {
         HELPINFO info{};
@@ -74,13 +57,13 @@ protected:
 
 TEST_F(HelpKeys, F1AsksAboutThePage)
 {
-    PressF1(ui::Control(m_page.m_hWnd, kEdit), false);
+    ui::PressF1(ui::Control(m_page.m_hWnd, kEdit));
     EXPECT_EQ(std::vector<bool>{false}, m_page.m_helpModes);
 }
 
 TEST_F(HelpKeys, ShiftF1AsksAboutTheControl)
 {
-    PressF1(ui::Control(m_page.m_hWnd, kEdit), true);
+    ui::PressF1(ui::Control(m_page.m_hWnd, kEdit), true);
     EXPECT_EQ(std::vector<bool>{true}, m_page.m_helpModes);
 }
 
@@ -98,7 +81,7 @@ TEST_F(HelpKeys, HelpModeEndsWithTheQuestion)
 
 TEST_F(HelpKeys, F1OnAButtonOfTheSheetReachesThePageInFront)
 {
-    PressF1(ui::Control(m_window, IDOK), false);
+    ui::PressF1(ui::Control(m_window, IDOK));
     EXPECT_EQ(std::vector<bool>{false}, m_page.m_helpModes);
 }
 

@@ -44,17 +44,6 @@ Texts Twice(const Texts& texts)
     return twice;
 }
 
-/// Has the help viewer show something else, so that what it shows next is known to be new.
-void ForgetTopic()
-{
-    using HtmlHelp = HWND WINAPI(HWND, const char*, UINT, DWORD_PTR);
-    const HMODULE viewer = LoadLibraryA("HelpStandIn.dll");
-    const FARPROC address = viewer ? GetProcAddress(viewer, "HtmlHelpA") : nullptr;
-    ASSERT_NE(nullptr, address);
-    reinterpret_cast<HtmlHelp*>(reinterpret_cast<void*>(address))(nullptr, "", 0, reinterpret_cast<DWORD_PTR>("none"));
-    FreeLibrary(viewer);
-}
-
 /// What stands as PELMAR.dll beside the test program: the host's real one, another one, or none. What was there before
 /// comes back at the end.
 class PostProcessorFile {

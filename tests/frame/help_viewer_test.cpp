@@ -2,6 +2,8 @@
 // in a process of its own.
 #include <filesystem>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -100,6 +102,88 @@ TEST_F(HelpViewer, WithoutTheEntryPointShowsNothing)
 {
     RegisterPath(L"CompleteToolLib.dll");
     EXPECT_FALSE(IsShownByTheUsualViewer());
+}
+
+/// What the host was told, in its order.
+std::vector<std::string> g_told;
+
+void Note(const HelpState& state)
+{
+    g_told.push_back(std::string(state.hasViewer ? "viewer" : "no viewer") + ", " +
+                     (state.hasFile ? "file" : "no file"));
+}
+
+/// Where the library looks for the help file, with a file there while one lives.
+class HelpFile {
+public:
+    HelpFile() : m_path(GetSettingsLocations().helpFile.c_str())
+    {
+        std::filesystem::create_directories(std::filesystem::path(m_path).parent_path());
+        WriteFile(m_path, "help");
+    }
+    ~HelpFile() { std::filesystem::remove(m_path); }
+    HelpFile(const HelpFile&) = delete;
+    HelpFile& operator=(const HelpFile&) = delete;
+
+private:
+    std::string m_path;
+};
+
+TEST_F(HelpViewer, AndFileAreToldOfWhetherTheyAreThere)
+{
+    HelpState state = GetHelpState();
+    EXPECT_TRUE(state.hasViewer);
+    EXPECT_FALSE(state.hasFile);
+    EXPECT_FALSE(state.CanOpen());
+    EXPECT_STREQ(kUsualViewer, state.viewerFile);
+    EXPECT_STREQ(GetSettingsLocations().helpFile.c_str(), state.helpFile);
+    {
+        const HelpFile file;
+        state = GetHelpState();
+        EXPECT_TRUE(state.hasFile);
+        EXPECT_TRUE(state.CanOpen());
+    }
+    EXPECT_FALSE(GetHelpState().hasFile);
+}
+
+TEST_F(HelpViewer, ThatIsGoneCannotOpenTheFile)
+{
+    RegisterPath(L"NoSuchViewer.dll");
+    const HelpFile file;
+    const HelpState state = GetHelpState();
+    EXPECT_FALSE(state.hasViewer);
+    EXPECT_TRUE(state.hasFile);
+    EXPECT_FALSE(state.CanOpen());
+    EXPECT_STREQ("NoSuchViewer.dll", state.viewerFile);
+}
+
+TEST_F(HelpViewer, ThatIsGoneIsToldToTheHostThatAskedForItWheneverHelpIsAskedFor)
+{
+    RegisterPath(L"NoSuchViewer.dll");
+    EXPECT_FALSE(IsShownByTheUsualViewer());
+    EXPECT_TRUE(g_told.empty());
+    TellOfMissingHelp(Note);
+    EXPECT_FALSE(IsShownByTheUsualViewer());
+    EXPECT_FALSE(IsShownByTheUsualViewer());
+    EXPECT_EQ((std::vector<std::string>(2, "no viewer, no file")), g_told);
+    TellOfMissingHelp(nullptr);
+    EXPECT_FALSE(IsShownByTheUsualViewer());
+    EXPECT_EQ(2u, g_told.size());
+}
+
+TEST_F(HelpViewer, IsNotAskedForAFileOfWhichTheHostIsToldThatItIsMissing)
+{
+    TellOfMissingHelp(Note);
+    {
+        const HelpFile file;
+        EXPECT_TRUE(IsShownByTheUsualViewer());
+        EXPECT_TRUE(g_told.empty());
+    }
+    CDefs3xPage page;
+    OpenSheet sheet({&page});
+    TopicShownFor(sheet.Page(), 0);
+    EXPECT_EQ(std::vector<std::string>{"viewer, no file"}, g_told);
+    TellOfMissingHelp(nullptr);
 }
 
 } // namespace

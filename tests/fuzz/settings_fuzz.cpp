@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "frame/number_text.h"
+#include "records/shown_value.h"
 #include "review/changes.h"
 
 using namespace pelmar;

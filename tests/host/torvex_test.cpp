@@ -22,6 +22,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kApplyButton = 0x3021;
+constexpr int kHelpCommand = 0xE146; ///< of the framework
 
 constexpr wchar_t kNcDefaults[] = L"Параметры ЧПУ";
 constexpr wchar_t kDefaultTools[] = L"Параметры ЧПУ > Сервис";
@@ -876,6 +877,26 @@ TEST_F(Torvex, TheBallToolBoxLeavesBallMillsOnlyInThisListAndTheNextOnes)
 }
 
 // ---- a save that fails ----
+
+TEST_F(Torvex, HelpWithoutItsFileIsToldOfOnceInARunWithThePlaceOfTheFile)
+{
+    constexpr int kHelpButton = 9; // the sheet's own
+    Start();
+    OpenOptions();
+    ui::Click(m_sheet, kHelpButton);
+    const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
+    EXPECT_NE(std::wstring::npos, box.text.find(L"Справка не открывается")) << box.text.size();
+    EXPECT_NE(std::wstring::npos, box.text.find(L"\\Help\\TORVEX.chm")) << box.text.size();
+    ui::Answer(box, IDOK);
+    ui::Click(m_sheet, kHelpButton);
+    CloseOptions(IDCANCEL);
+    EXPECT_FALSE(ui::IsBoxOpen(m_process.dwProcessId));
+    const HWND dialog = OpenNcDefaults();
+    ui::Click(dialog, kHelpCommand);
+    Cancel(dialog);
+    EXPECT_FALSE(ui::IsBoxOpen(m_process.dwProcessId));
+    EXPECT_EQ(0u, Close());
+}
 
 TEST_F(Torvex, ASheetThatCouldNotBeSavedTellsTheFileAndTheReasonAndStaysOpen)
 {

@@ -246,6 +246,17 @@ std::string LastTopicShown()
     return Shown("HelpStandIn_Topic");
 }
 
+void ForgetTopic()
+{
+    using HtmlHelp = HWND WINAPI(HWND, const char*, UINT, DWORD_PTR);
+    const HMODULE viewer = LoadLibraryA("HelpStandIn.dll");
+    const FARPROC address = viewer ? GetProcAddress(viewer, "HtmlHelpA") : nullptr;
+    if (!address)
+        throw std::runtime_error("the stand-in for the help viewer is missing");
+    reinterpret_cast<HtmlHelp*>(reinterpret_cast<void*>(address))(nullptr, "", 0, reinterpret_cast<DWORD_PTR>("none"));
+    FreeLibrary(viewer);
+}
+
 std::string HelpFileShown()
 {
     return Shown("HelpStandIn_File");

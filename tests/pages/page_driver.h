@@ -65,4 +65,6 @@ std::vector<std::string> LayoutFaults(HWND dialog);
 std::string TopicShownFor(HWND page, int control);
 /// The topic that was shown last, and the help file that it was taken from.
 std::string LastTopicShown();
+/// Has the viewer show something else, so that what it shows next is known to be new.
+void ForgetTopic();
 std::string HelpFileShown();

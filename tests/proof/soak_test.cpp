@@ -1,5 +1,7 @@
 // Every page and dialog is opened, used and closed many times, and must leave nothing behind.
 #include <cstdlib>
+#include <functional>
+#include <initializer_list>
 #include <memory>
 
 #include <gtest/gtest.h>
@@ -9,6 +11,7 @@
 
 #include "module/host_folder.h"
 #include "option_pages.h"
+#include "pages/tip_driver.h"
 #include "resources/resource.h"
 #include "ui/holdings.h"
 #include "ui/person.h"
@@ -53,6 +56,57 @@ void Use(HWND dialog)
     }
 }
 
+/// Lets the windows of this thread go on until something has come about, as their own loop would.
+bool GoOnUntil(const std::function<bool()>& condition)
+{
+    const ULONGLONG end = GetTickCount64() + ui::kLimitMilliseconds;
+    while (!condition() && GetTickCount64() < end) {
+        MSG message;
+        while (PeekMessage(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (CWnd::WalkPreTranslateTree(nullptr, &message))
+                continue;
+            TranslateMessage(&message);
+            DispatchMessage(&message);
+        }
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+    }
+    return condition();
+}
+
+/// Rests the pointer on controls until their tips come, and leaves them.
+void RestOn(HWND dialog, std::initializer_list<int> ids)
+{
+    const HWND root = GetAncestor(dialog, GA_ROOT);
+    for (const int id : ids) {
+        const HWND control = GetDlgItem(dialog, id);
+        const auto comes = [&] {
+            SetActiveWindow(root);
+            PostMessage(dialog, WM_MOUSEMOVE, 0, 0);
+            RECT area;
+            GetWindowRect(control, &area);
+            POINT middle{(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+            ScreenToClient(dialog, &middle);
+            PostMessage(dialog, WM_MOUSEMOVE, 0, MAKELPARAM(middle.x, middle.y));
+            const ULONGLONG end = GetTickCount64() + 1000;
+            return GoOnUntil([&] { return OpenTip() || GetTickCount64() > end; }) && OpenTip();
+        };
+        EXPECT_TRUE(ui::WaitUntil(comes)) << id;
+        PostMessage(dialog, WM_MOUSEMOVE, 0, 0);
+        EXPECT_TRUE(GoOnUntil([] { return !OpenTip(); })) << id;
+    }
+}
+
+/// Rests on the first field, list and box that can have a tip.
+void RestOnFirst(HWND page)
+{
+    for (const wchar_t* const kind : {L"Edit", L"ComboBox"})
+        for (const HWND control : ui::Children(page))
+            if (ui::ClassOf(control) == kind && IsWindowVisible(control)) {
+                RestOn(page, {GetDlgCtrlID(control)});
+                break;
+            }
+}
+
 /// The buttons of pages that open a dialog or a sheet of the library's.
 constexpr int kOpeners[] = {IDC_MX_ROTARY_OPTIONS, IDC_LATHE_DIAMETER_AXES};
 
@@ -83,6 +137,7 @@ private:
     {
         const auto page = reinterpret_cast<HWND>(SendMessage(PSM_GETCURRENTPAGEHWND));
         Use(page);
+        RestOnFirst(page);
         ::SendMessage(page, kSetDefaultsMessage, 0, 0);
         for (const int opener : kOpeners)
             if (const HWND button = ::GetDlgItem(page, opener)) {
@@ -106,6 +161,7 @@ class SoakOfPage : public testing::TestWithParam<size_t> {};
 TEST_P(SoakOfPage, LeavesNothing)
 {
     const HostFolder host;
+    const ShortRests shortRests;
     const OptionPage& row = OptionPages()[GetParam()];
     ui::ExpectNothingLeft(
         Rounds(),
@@ -121,9 +177,10 @@ TEST_P(SoakOfPage, LeavesNothing)
 INSTANTIATE_TEST_SUITE_P(AllPages, SoakOfPage, testing::Range(size_t{0}, OptionPages().size()));
 
 /// Shows a dialog inside a host's window, fills it, uses it and lets it go.
-template <class Dialog, class Fill> void Soak(Fill fill)
+template <class Dialog, class Fill> void Soak(Fill fill, std::initializer_list<int> rests = {})
 {
     const HostFolder host;
+    const ShortRests shortRests;
     ui::ExpectNothingLeft(
         Rounds(),
         [&] {
@@ -131,6 +188,8 @@ template <class Dialog, class Fill> void Soak(Fill fill)
             ASSERT_TRUE(dialog.Create(Dialog::IDD));
             fill(dialog);
             Use(dialog.m_hWnd);
+            dialog.ShowWindow(SW_SHOW);
+            RestOn(dialog.m_hWnd, rests);
             dialog.SendMessage(kSetDefaultsMessage);
             dialog.UpdateData(TRUE);
             dialog.DestroyWindow();
@@ -141,11 +200,13 @@ template <class Dialog, class Fill> void Soak(Fill fill)
 TEST(SoakOfDialogs, NcDefaultsLeaveNothing)
 {
     OptNCDefData data;
-    Soak<CDefsNCDefaultsDlg>([&](CDefsNCDefaultsDlg& dialog) {
-        dialog.GetData(&data);
-        dialog.UpdateData(FALSE);
-        dialog.SetData(&data);
-    });
+    Soak<CDefsNCDefaultsDlg>(
+        [&](CDefsNCDefaultsDlg& dialog) {
+            dialog.GetData(&data);
+            dialog.UpdateData(FALSE);
+            dialog.SetData(&data);
+        },
+        {IDC_NCDEF_LAST_TOOL, IDC_NCDEF_MAX_SPAN});
 }
 
 TEST(SoakOfDialogs, DefaultToolsLeaveNothing)
@@ -158,14 +219,16 @@ TEST(SoakOfDialogs, DefaultToolsLeaveNothing)
 }
 
 /// A child dialog needs a window around it.
-template <class Dialog, class Fill> void SoakInside(Fill fill)
+template <class Dialog, class Fill> void SoakInside(Fill fill, std::initializer_list<int> rests = {})
 {
     const HostFolder host;
+    const ShortRests shortRests;
     std::unique_ptr<CWnd> owner;
     ui::UiThread::Get().Call([&] {
         owner = std::make_unique<CWnd>();
         ASSERT_TRUE(
             owner->CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW, CRect(0, 0, 800, 600), nullptr, 0));
+        owner->ShowWindow(SW_SHOW);
     });
     ui::ExpectNothingLeft(
         Rounds(),
@@ -175,6 +238,7 @@ template <class Dialog, class Fill> void SoakInside(Fill fill)
             fill(dialog);
             dialog.ShowWindow(SW_SHOW);
             Use(dialog.m_hWnd);
+            RestOn(dialog.m_hWnd, rests);
             dialog.UpdateData(TRUE);
             dialog.DestroyWindow();
         },
@@ -209,11 +273,13 @@ TEST(SoakOfDialogs, TheReviewOfTheSettingsLeavesNothing)
 
 TEST(SoakOfDialogs, TheSetupSheetLeavesNothing)
 {
-    SoakInside<CDefsSetupsheet>([](CDefsSetupsheet& dialog) {
-        dialog.GetData(kMillimetre);
-        dialog.SendMessage(kSetDefaultsMessage);
-        dialog.SetData();
-    });
+    SoakInside<CDefsSetupsheet>(
+        [](CDefsSetupsheet& dialog) {
+            dialog.GetData(kMillimetre);
+            dialog.SendMessage(kSetDefaultsMessage);
+            dialog.SetData();
+        },
+        {IDC_SHEET_RAPID_RATE, IDC_SHEET_STYLE});
 }
 
 } // namespace

@@ -257,6 +257,22 @@ void Press(HWND control, WPARAM key)
     Settle(control);
 }
 
+void PressF1(HWND control, bool withShift)
+{
+    constexpr UINT kKeyF1 = 0x004D; // what the system posts when F1 goes down
+    constexpr BYTE kDown = 0x80;
+    UiThread::Get().Call([&] {
+        BYTE before[256];
+        GetKeyboardState(before);
+        BYTE pressed[256]{};
+        pressed[VK_F1] = kDown;
+        pressed[VK_SHIFT] = withShift ? kDown : 0;
+        SetKeyboardState(pressed);
+        SendMessage(control, kKeyF1, 0, 0);
+        SetKeyboardState(before);
+    });
+}
+
 void Click(HWND dialog, int id)
 {
     const HWND control = Control(dialog, id);

@@ -53,6 +53,8 @@ void Type(HWND dialog, int id, const std::wstring& text);
 /// Types at the caret of the control.
 void TypeAt(HWND control, const std::wstring& text);
 void Press(HWND control, WPARAM key);
+/// Presses F1 in a control of this process, as the system reports it to its window.
+void PressF1(HWND control, bool withShift = false);
 /// Clicks a button or a check box; throws when it is disabled or hidden, as nobody could.
 void Click(HWND dialog, int id);
 /// Chooses an item of a list as the user does: the choice and its notification.

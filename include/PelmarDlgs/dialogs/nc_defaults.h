@@ -49,6 +49,7 @@ public:
     void SetData(OptNCDefData* data);
 
     BOOL OnInitDialog() override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;

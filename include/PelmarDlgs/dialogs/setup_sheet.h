@@ -25,6 +25,7 @@ public:
     void SetData();
 
     BOOL OnInitDialog() override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;

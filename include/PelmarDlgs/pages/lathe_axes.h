@@ -50,6 +50,7 @@ public:
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
     void OnActiveAtStartup();
+    void OnHelp();
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -23,6 +23,7 @@ public:
     BOOL OnSetActive() override;
     void OnOK() override;
     void OnReset() override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
     /// The page takes the binding over.
