@@ -112,9 +112,12 @@ public:
         if (values.displayMode == mode)
             return;
         values.displayMode = mode;
-        EnableControl(m_dialog, IDC_NCDEF_MENU_ICONS, mode == 1);
+        EnableMenuIcons();
         needsRestart = true;
     }
+
+    /// Only the menu has icons.
+    void EnableMenuIcons() const { EnableControl(m_dialog, IDC_NCDEF_MENU_ICONS, values.displayMode == 1); }
 
     void EnableTolerances() const
     {
@@ -229,7 +232,7 @@ BOOL CDefsNCDefaultsDlg::OnInitDialog()
     const FilesAsOfNow files;
     m_state->values.displayMode = Normalised(ReadHostWhole(kDisplaySection, kDisplayMode, m_state->values.displayMode));
     m_state->values.menuIcons = Normalised(ReadHostWhole(kDisplaySection, kMenuIcons, m_state->values.menuIcons));
-    EnableControl(*this, IDC_NCDEF_MENU_ICONS, m_state->values.displayMode == 1);
+    m_state->EnableMenuIcons();
     m_state->values.classic3Axis =
         Normalised(ReadHostWhole(kParameterSection, kClassic3Axis, m_state->values.classic3Axis));
     m_state->displayModeAtOpening = m_state->values.displayMode;
@@ -264,6 +267,7 @@ LRESULT CDefsNCDefaultsDlg::SetDefaults(WPARAM, LPARAM)
     const FilesAsOfNow files;
     ReadDefaults(m_state->values);
     m_state->values.classic3Axis = IsOne(ReadHostWhole(kParameterSection, kClassic3Axis, 0));
+    m_state->EnableMenuIcons();
     m_state->EnableTolerances();
     UpdateData(FALSE);
     m_state->needsRestart = true;

@@ -122,6 +122,11 @@ void ShowTopic(const CWnd& window, const char* topic)
         show(window.m_hWnd, GetSettingsLocations().helpFile.c_str(), kDisplayTopic, reinterpret_cast<DWORD_PTR>(topic));
 }
 
+void ShowHelpContents(const CWnd& caller)
+{
+    ShowTopic(caller, kIntroductionTopic);
+}
+
 void AskForHelp(CWnd& window)
 {
     // The message says nothing of what caused it: without F1 held down it came from the "?" pointer.

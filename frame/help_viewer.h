@@ -11,6 +11,9 @@ namespace pelmar {
 /// where there is none; nothing where the application is not in that mode.
 std::optional<INT_PTR> EndHelpMode(const CWnd& window, CPoint position);
 
+/// The topic that the help file begins with.
+inline constexpr char kIntroductionTopic[] = "introduction.htm";
+
 /// Shows a topic of the help file. Where the system has no help viewer nothing happens, now and later, but that the
 /// host is told if it wants to.
 void ShowTopic(const CWnd& window, const char* topic);

@@ -19,6 +19,30 @@ const DLGTEMPLATE* FindTemplate(UINT id)
     const LPCTSTR name = MAKEINTRESOURCE(id);
     return AfxLoadTemplate(AfxFindResourceHandle(name, RT_DIALOG), name);
 }
+
+/// What a template begins with where it is one of the extended kind.
+#pragma pack(push, 1)
+struct ExtendedTemplate {
+    WORD version;
+    WORD signature; ///< 0xFFFF tells the kinds apart
+    DWORD helpId;
+    DWORD exStyle;
+    DWORD style;
+    WORD controls;
+    short x;
+    short y;
+};
+#pragma pack(pop)
+
+/// Whether a template leaves the place of its dialog open.
+bool LeavesPlaceOpen(const DLGTEMPLATE& dialogTemplate)
+{
+    constexpr DWORD kPlaced = WS_CHILD | DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN;
+    const auto& extended = reinterpret_cast<const ExtendedTemplate&>(dialogTemplate);
+    if (extended.signature == 0xFFFF)
+        return !(extended.style & kPlaced) && extended.x == 0 && extended.y == 0;
+    return !(dialogTemplate.style & kPlaced) && dialogTemplate.x == 0 && dialogTemplate.y == 0;
+}
 } // namespace
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
@@ -82,10 +106,22 @@ void CDialog::EndDialog(int result)
     ::EndDialog(m_hWnd, result);
 }
 
+/// A dialog whose template leaves its place open comes up in the middle of its owner, with the size that OnInitDialog
+/// has given it; not where that has moved it, shown it or ended it.
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
 {
     Default();
-    return OnInitDialog();
+    CRect before;
+    GetWindowRect(before);
+    const BOOL result = OnInitDialog();
+    if (!m_hWnd || IsWindowVisible())
+        return result;
+    CRect after;
+    GetWindowRect(after);
+    const DLGTEMPLATE* const dialogTemplate = FindTemplate(m_templateId);
+    if (before.TopLeft() == after.TopLeft() && dialogTemplate && LeavesPlaceOpen(*dialogTemplate))
+        CenterWindow();
+    return result;
 }
 
 BOOL CDialog::OnInitDialog()

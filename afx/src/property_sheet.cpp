@@ -338,5 +338,7 @@ LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM)
 
 BOOL CPropertySheet::OnInitDialog()
 {
+    if (!(GetStyle() & WS_CHILD))
+        CenterWindow();
     return TRUE;
 }

@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "resource.h"
 
 namespace toollib {
@@ -48,8 +50,30 @@ private:
         ShowFilter();
         AddColumns();
         Fill();
+        CentreOverOwner();
         SetFocus(List());
         return FALSE; // the focus is set
+    }
+
+    /// In the middle of its owner, as far as the display has room there.
+    void CentreOverOwner() const
+    {
+        const HWND owner = GetWindow(m_window, GW_OWNER);
+        MONITORINFO display{};
+        display.cbSize = sizeof display;
+        RECT around;
+        RECT own;
+        if (!owner || !GetWindowRect(owner, &around) || !GetWindowRect(m_window, &own) ||
+            !GetMonitorInfoW(MonitorFromWindow(owner, MONITOR_DEFAULTTONEAREST), &display))
+            return;
+        const RECT& area = display.rcWork;
+        const LONG width = own.right - own.left;
+        const LONG height = own.bottom - own.top;
+        const LONG left = (around.left + around.right - width) / 2;
+        const LONG top = (around.top + around.bottom - height) / 2;
+        SetWindowPos(m_window, nullptr, std::max(area.left, std::min(left, area.right - width)),
+                     std::max(area.top, std::min(top, area.bottom - height)), 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
 
     void ShowFilter()

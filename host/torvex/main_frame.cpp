@@ -1,7 +1,11 @@
 #include "main_frame.h"
 
+#include <algorithm>
+
 #include <PelmarDlgs.h>
 
+#include "about_box.h"
+#include "display.h"
 #include "nc_data.h"
 #include "nc_dialogs.h"
 #include "option_pages.h"
@@ -9,12 +13,16 @@
 #include "pending_save.h"
 #include "resource.h"
 #include "settings.h"
+#include "texts.h"
 #include "tool_library.h"
+
+using namespace pelmar;
 
 IMPLEMENT_DYNAMIC(CMainFrame, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_WM_SIZE()
+    ON_MESSAGE(WM_DPICHANGED, &CMainFrame::OnDpiChanged)
     ON_WM_DESTROY()
     ON_COMMAND(ID_FILE_EXIT, &CMainFrame::OnExit)
     ON_COMMAND(ID_NC_OPTIONS, &CMainFrame::OnNcOptions)
@@ -28,19 +36,16 @@ BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_FILE_RESTART, &CMainFrame::OnRestart)
     ON_COMMAND(ID_UNITS_INCH, &CMainFrame::OnInch)
     ON_COMMAND(ID_UNITS_MILLIMETRE, &CMainFrame::OnMillimetre)
+    ON_COMMAND(ID_HELP_CONTENTS, &CMainFrame::OnHelpContents)
+    ON_COMMAND(ID_HELP_ABOUT, &CMainFrame::OnAbout)
 END_MESSAGE_MAP()
 
 namespace {
 
+// In pixels of an unscaled display.
 constexpr int kMargin = 8;
-constexpr int kPathHeight = 18;
-
-CString Text(UINT id)
-{
-    CString text;
-    text.LoadString(id);
-    return text;
-}
+constexpr int kWidth = 760;
+constexpr int kHeight = 720;
 
 /// How the NC commands are offered.
 UINT DisplayMode()
@@ -56,12 +61,18 @@ CString SettingsInEffect()
     return Text(IDS_IN_EFFECT) + L"\n\n" + Text(DisplayMode()) + L"\n" + Text(threeAxis) + L"\n" + NcSettingsPath();
 }
 
-HFONT MakeMessageFont()
+/// The part of the display around a window that is free for windows.
+CRect WorkingArea(HWND window)
 {
-    NONCLIENTMETRICS metrics{};
-    metrics.cbSize = sizeof metrics;
-    SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    return CreateFontIndirect(&metrics.lfMessageFont);
+    MONITORINFO display{};
+    display.cbSize = sizeof display;
+    GetMonitorInfo(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &display);
+    return display.rcWork;
+}
+
+void SetFont(CWnd& control, HFONT font)
+{
+    control.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
 } // namespace
@@ -74,17 +85,59 @@ BOOL CMainFrame::Create()
                            MAKEINTRESOURCE(IDR_MAIN_MENU)))
         return FALSE;
 
-    m_font = MakeMessageFont();
+    CreateControls();
+    AdjustTo(DpiOf(m_hWnd));
+    TakeUsualSize();
+    ListenToSaves([this](UINT what, const CString& file) { ShowSaved(what, file); });
+    LoadSettings();
+    return TRUE;
+}
+
+void CMainFrame::CreateControls()
+{
     m_path.CreateEx(0, L"STATIC", nullptr, WS_CHILD | WS_VISIBLE | SS_NOPREFIX | SS_PATHELLIPSIS, CRect(), this,
                     IDC_SETTINGS_PATH);
-    m_path.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_font), TRUE);
     m_text.CreateEx(WS_EX_CLIENTEDGE, L"EDIT", nullptr,
                     WS_CHILD | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL, CRect(), this,
                     IDC_SETTINGS_TEXT);
-    m_text.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_font), TRUE);
+    m_status.Create(WS_CHILD | WS_VISIBLE | CCS_BOTTOM | SBARS_SIZEGRIP, CRect(), this, IDC_STATUS_LINE);
+}
 
-    LoadSettings();
-    return TRUE;
+void CMainFrame::TakeUsualSize()
+{
+    CRect rect;
+    GetWindowRect(rect);
+    const CRect area = WorkingArea(m_hWnd);
+    const int width = std::min<int>(Scaled(kWidth, m_dpi), area.right - rect.left);
+    const int height = std::min<int>(Scaled(kHeight, m_dpi), area.bottom - rect.top);
+    SetWindowPos(nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CMainFrame::AdjustTo(int dpi)
+{
+    m_dpi = dpi;
+    const HFONT before = m_font;
+    m_font = MakeMessageFont(dpi);
+    SetFont(m_path, m_font);
+    SetFont(m_text, m_font);
+    SetFont(m_status, m_font);
+    DeleteObject(before);
+    Arrange();
+}
+
+void CMainFrame::Arrange()
+{
+    CRect client;
+    GetClientRect(client);
+    m_status.SendMessage(WM_SIZE); // it places itself
+    CRect status;
+    m_status.GetWindowRect(status);
+    const int margin = Scaled(kMargin, m_dpi);
+    const int pathHeight = LineHeight(m_font);
+    const int textTop = 2 * margin + pathHeight;
+    const int width = client.Width() - 2 * margin;
+    m_path.MoveWindow(margin, margin, width, pathHeight);
+    m_text.MoveWindow(margin, textTop, width, client.Height() - status.Height() - textTop - margin);
 }
 
 void CMainFrame::LoadSettings()
@@ -102,15 +155,23 @@ void CMainFrame::LoadSettings()
 void CMainFrame::OnSize(UINT type, int width, int height)
 {
     CFrameWnd::OnSize(type, width, height);
-    if (!m_text.m_hWnd)
-        return;
-    const int textTop = 2 * kMargin + kPathHeight;
-    m_path.MoveWindow(kMargin, kMargin, width - 2 * kMargin, kPathHeight);
-    m_text.MoveWindow(kMargin, textTop, width - 2 * kMargin, height - textTop - kMargin);
+    if (m_font)
+        Arrange();
+}
+
+/// The window has come to a display of another resolution, or its display has got one. The system says which place
+/// keeps it the same size to the eye.
+LRESULT CMainFrame::OnDpiChanged(WPARAM dpi, LPARAM suggested)
+{
+    const CRect place = *reinterpret_cast<const RECT*>(suggested);
+    SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(), SWP_NOZORDER | SWP_NOACTIVATE);
+    AdjustTo(HIWORD(dpi));
+    return 0;
 }
 
 void CMainFrame::OnDestroy()
 {
+    ListenToSaves({});
     DeleteObject(m_font);
     CFrameWnd::OnDestroy();
 }
@@ -162,7 +223,7 @@ void CMainFrame::OnNcSetupSheet()
 /// The review, and from there the page or dialog that the user wants to see.
 void CMainFrame::OnNcReview()
 {
-    const pelmar::SettingPlace place = ShowSettingsReview(this);
+    const SettingPlace place = ShowSettingsReview(this);
     ShowSettings();
     if (!place.templateId)
         return;
@@ -171,6 +232,16 @@ void CMainFrame::OnNcReview()
     else
         COptionsSheet(this, m_units, COptionsSheet::Use::Edit, place).DoModal();
     ShowSettings();
+}
+
+void CMainFrame::OnHelpContents()
+{
+    ShowHelpContents(*this);
+}
+
+void CMainFrame::OnAbout()
+{
+    ShowAboutBox(this);
 }
 
 /// What a restart of the program does for the NC module, and a word on what it brought into effect.
@@ -209,4 +280,11 @@ void CMainFrame::ShowSettings()
     const CString text = NcSettingsText();
     m_path.SetWindowText(Text(IDS_SETTINGS_FILE) + L" " + NcSettingsPath());
     m_text.SetWindowText(text.IsEmpty() ? Text(IDS_NO_SETTINGS_YET) : text);
+}
+
+void CMainFrame::ShowSaved(UINT what, const CString& file)
+{
+    CString text;
+    AfxFormatString2(text, IDS_SAVED, Text(what), file);
+    m_status.SetText(text, 0, 0);
 }

@@ -1,9 +1,13 @@
 #include "options_sheet.h"
 
+#include <algorithm>
+
 #include <PelmarDlgs.h>
 
 #include "option_pages.h"
 #include "resource.h"
+#include "settings.h"
+#include "texts.h"
 
 using namespace pelmar;
 
@@ -22,11 +26,17 @@ namespace {
 
 constexpr int kApplyButton = 0x3021; ///< as the system numbers it in every property sheet
 
-CString Text(UINT id)
+CString Title(int units)
 {
-    CString text;
-    text.LoadString(id);
-    return text;
+    return Text(units == kMillimetre ? IDS_OPTIONS_TITLE_MILLIMETRE : IDS_OPTIONS_TITLE_INCH);
+}
+
+/// The place of the page that is made from a template; the first one where none is.
+int PageOf(int templateId)
+{
+    const auto pages = OptionPages();
+    const auto found = std::ranges::find(pages, templateId, &OptionPage::templateId);
+    return found == pages.end() ? 0 : static_cast<int>(found - pages.begin());
 }
 
 CRect RectIn(const CWnd& parent, HWND control)
@@ -40,11 +50,9 @@ CRect RectIn(const CWnd& parent, HWND control)
 } // namespace
 
 COptionsSheet::COptionsSheet(CWnd* parent, int units, Use use, SettingPlace place)
-    : CPropertySheetTVEx(Text(IDS_OPTIONS_TITLE), parent), m_use(use), m_place(place)
+    : CPropertySheetTVEx(Title(units), parent), m_use(use), m_place(place)
 {
     for (const OptionPage& row : OptionPages()) {
-        if (row.templateId == place.templateId)
-            m_psh.nStartPage = static_cast<UINT>(GetPageCount());
         CPropertyPage& made = *m_ownPages.emplace_back(row.make(units));
         made.m_psp.pszTitle = m_tabs.emplace_back(Text(row.tab));
         made.m_psp.dwFlags |= PSP_USETITLE;
@@ -52,6 +60,7 @@ COptionsSheet::COptionsSheet(CWnd* parent, int units, Use use, SettingPlace plac
             page->m_readOnly = use == Use::Look;
         AddPage(&made);
     }
+    m_psh.nStartPage = static_cast<UINT>(PageOf(place.templateId ? place.templateId : LoadOptionsPage()));
 }
 
 BOOL COptionsSheet::OnInitDialog()
@@ -98,12 +107,23 @@ bool COptionsSheet::SaveRecords()
     return m_save.Save(IDS_WHAT_OPTIONS, SaveAll);
 }
 
+/// Asked after each message, as long as there is a page in front.
+BOOL COptionsSheet::ContinueModal()
+{
+    if (GetActivePage())
+        m_lastPage = GetActiveIndex();
+    return CPropertySheetTVEx::ContinueModal();
+}
+
 INT_PTR COptionsSheet::DoModal()
 {
     const INT_PTR result = CPropertySheetTVEx::DoModal();
     // A program that presses the sheet's button by message comes past the command.
     if (result == IDOK && m_use == Use::Edit && !m_isSaved)
         SaveRecords();
+    m_save.Forget(); // the page is no part of it
+    if (m_lastPage >= 0 && m_lastPage != PageOf(LoadOptionsPage()))
+        SaveOptionsPage(OptionPages()[static_cast<size_t>(m_lastPage)].templateId);
     return result;
 }
 

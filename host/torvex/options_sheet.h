@@ -11,7 +11,8 @@
 #include "pending_save.h"
 
 /// Shows the pages of all operations and saves their records on OK and on Apply, unless they are only to be looked at.
-/// Where they could not be saved it stays open, until the user leaves it without.
+/// Where they could not be saved it stays open, until the user leaves it without. It opens on the page that was in
+/// front when it was last closed.
 class COptionsSheet : public CPropertySheetTVEx {
     DECLARE_DYNAMIC(COptionsSheet)
 public:
@@ -24,6 +25,7 @@ public:
     COptionsSheet(CWnd* parent, int units, Use use, pelmar::SettingPlace place = {});
 
     INT_PTR DoModal() override;
+    BOOL ContinueModal() override;
     BOOL OnInitDialog() override;
 
 protected:
@@ -40,6 +42,7 @@ private:
     pelmar::SettingPlace m_place;
     PendingSave m_save;
     bool m_isSaved = false; ///< by the OK that is under way
+    int m_lastPage = -1;    ///< place of the page that is or was in front
     std::vector<std::unique_ptr<CPropertyPage>> m_ownPages;
     std::list<CString> m_tabs; ///< the pages point at these texts
     CButton m_defaults;

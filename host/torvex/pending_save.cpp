@@ -6,6 +6,20 @@ using namespace pelmar;
 
 namespace {
 
+std::function<void(UINT what, const CString& file)>& Listener()
+{
+    static std::function<void(UINT, const CString&)> listener;
+    return listener;
+}
+
+/// A step in which nothing was to be saved has no file.
+void TellSaved(UINT what)
+{
+    const CString file(LastSave().file);
+    if (Listener() && !file.IsEmpty())
+        Listener()(what, file);
+}
+
 SaveResult ResultOf(const SaveOutcome& outcome)
 {
     SaveResult result;
@@ -27,7 +41,14 @@ bool PendingSave::Save(UINT what, const std::function<void()>& store)
         m_step->Commit();
         return ResultOf(LastSave());
     });
-    if (saved)
+    if (saved) {
         m_step.reset();
+        TellSaved(what);
+    }
     return saved;
+}
+
+void ListenToSaves(std::function<void(UINT what, const CString& file)> listener)
+{
+    Listener() = std::move(listener);
 }

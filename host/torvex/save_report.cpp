@@ -3,18 +3,12 @@
 #include <initializer_list>
 
 #include "resource.h"
+#include "texts.h"
 
 namespace {
 
-CString Text(UINT id)
-{
-    CString text;
-    text.LoadString(id);
-    return text;
-}
-
 /// A string of the table with its %1 to %3 replaced. What is put in may hold such marks itself.
-CString Text(UINT id, std::initializer_list<CString> parts)
+CString Filled(UINT id, std::initializer_list<CString> parts)
 {
     const CString format = Text(id);
     CString text;
@@ -51,18 +45,18 @@ CString SystemReason(DWORD error)
         text = SystemText(error, 0); // in the language that the system has
     CString code;
     code.Format(L"%lu", error);
-    return text.IsEmpty() ? Text(IDS_SYSTEM_CODE, {code}) : Text(IDS_SYSTEM_REASON, {text, code});
+    return text.IsEmpty() ? Filled(IDS_SYSTEM_CODE, {code}) : Filled(IDS_SYSTEM_REASON, {text, code});
 }
 
 bool AskToTryAgain(UINT what, const SaveResult& failed)
 {
-    const CString text = Text(IDS_NOT_SAVED, {Text(what), failed.file, failed.reason});
+    const CString text = Filled(IDS_NOT_SAVED, {Text(what), failed.file, failed.reason});
     return AfxMessageBox(text, MB_RETRYCANCEL | MB_ICONEXCLAMATION) == IDRETRY;
 }
 
 void TellKeptAside(const SaveResult& result)
 {
-    AfxMessageBox(Text(IDS_KEPT_ASIDE, {result.keptAside}), MB_OK | MB_ICONINFORMATION);
+    AfxMessageBox(Filled(IDS_KEPT_ASIDE, {result.keptAside}), MB_OK | MB_ICONINFORMATION);
 }
 
 bool SaveAndReport(UINT what, const std::function<SaveResult()>& save)

@@ -15,6 +15,7 @@ namespace {
 
 constexpr char kSection[] = "Settings";
 constexpr char kUnitsKey[] = "Units";
+constexpr char kPageKey[] = "OptionsPage";
 
 const char* HostFile()
 {
@@ -72,6 +73,16 @@ int LoadUnits()
 void SaveUnits(int units)
 {
     WriteHostWhole(kSection, kUnitsKey, units);
+}
+
+int LoadOptionsPage()
+{
+    return ReadHostWhole(kSection, kPageKey, 0);
+}
+
+void SaveOptionsPage(int templateId)
+{
+    WriteHostWhole(kSection, kPageKey, templateId);
 }
 
 CString NcSettingsPath()

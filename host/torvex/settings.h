@@ -19,6 +19,11 @@ bool HostSetting(const char* section, const char* key);
 int LoadUnits();
 void SaveUnits(int units);
 
+/// The page of the options that the user had in front last, by the number of its template; 0, or any other number that
+/// no page has, where none is kept. That it could not be saved is no matter to tell anybody of.
+int LoadOptionsPage();
+void SaveOptionsPage(int templateId);
+
 /// The file in which the NC options are saved, and what it holds; the text is empty while there is no file.
 CString NcSettingsPath();
 CString NcSettingsText();

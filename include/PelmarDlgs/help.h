@@ -3,6 +3,8 @@
 
 #include "PelmarDlgs/export.h"
 
+class CWnd;
+
 namespace pelmar {
 
 /// What is there of the help. The texts are in the system's ANSI code page and stay valid until the next question.
@@ -26,6 +28,10 @@ using HelpMissing = void(const HelpState& state);
 /// library itself says nothing. Without anybody to tell, a viewer that is there is asked for a file that is missing
 /// too, and says of that what it likes.
 PELMAR_API void TellOfMissingHelp(HelpMissing* tell);
+
+/// Opens the help file at its introduction, for a host's Help menu. `caller`: the window that asks. Where help cannot
+/// open it is as with every topic: the host is told if it wants to, and nothing else happens.
+PELMAR_API void ShowHelpContents(const CWnd& caller);
 
 /// Whether a tip comes up while the pointer rests on a control of a page, of the dialog of the rotary axes, of the NC
 /// defaults or of the setup sheet: what the option does, its unit, its range, its factory value, and whether it is at

@@ -17,7 +17,7 @@ void Play()
 
     Say("open the NC options");
     PostMessage(main, WM_COMMAND, ID_NC_OPTIONS, 0);
-    const HWND sheet = host.WaitForWindow(L"Параметры ЧПУ");
+    const HWND sheet = host.WaitForWindow(L"Параметры ЧПУ (дюймы)");
     const HWND page = PageOf(sheet);
     const HWND step = ui::Control(page, IDC_2X_SIDE_ROUGH_STEP);
     Expect(ui::TextOf(GetWindow(step, GW_HWNDPREV)) == L"Черновой шаг на сторону:",

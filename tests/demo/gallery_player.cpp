@@ -33,10 +33,13 @@ void Picture(HWND window, const std::string& name)
     TakeShot(window, name, &area);
 }
 
-HWND OpenSheet(const Host& host, HWND main, UINT command)
+constexpr wchar_t kInchSheet[] = L"Параметры ЧПУ (дюймы)";
+constexpr wchar_t kMillimetreSheet[] = L"Параметры ЧПУ (миллиметры)";
+
+HWND OpenSheet(const Host& host, HWND main, UINT command, const wchar_t* title = kInchSheet)
 {
     PostMessage(main, WM_COMMAND, command, 0);
-    const HWND sheet = host.WaitForWindow(L"Параметры ЧПУ");
+    const HWND sheet = host.WaitForWindow(title);
     ui::Settle(sheet);
     return sheet;
 }
@@ -137,7 +140,7 @@ void PlayPages(const Host& host, HWND main)
     }
     CloseSheet(sheet);
     PostMessage(main, WM_COMMAND, ID_UNITS_MILLIMETRE, 0);
-    sheet = OpenSheet(host, main, ID_NC_OPTIONS);
+    sheet = OpenSheet(host, main, ID_NC_OPTIONS, kMillimetreSheet);
     for (size_t index = 0; index < std::size(kPages); ++index) {
         TurnTo(sheet, index);
         Picture(sheet, std::string(kPages[index]) + "-metric");
@@ -259,10 +262,24 @@ void PlayReview(const Host& host, HWND main)
     Close(dialog);
 }
 
+/// The main window when something has been saved, and the box that tells the versions.
+void PictureOfProgram(const Host& host, HWND main)
+{
+    PostMessage(main, WM_COMMAND, ID_UNITS_MILLIMETRE, 0);
+    PostMessage(main, WM_COMMAND, ID_UNITS_INCH, 0);
+    Picture(main, "main-window");
+    PostMessage(main, WM_COMMAND, ID_HELP_ABOUT, 0);
+    const HWND box = host.WaitForWindow(L"О программе TORVEX");
+    Picture(box, "about");
+    PostMessage(box, WM_COMMAND, IDOK, 0);
+    ExpectSoon("the box is closed", [&] { return !IsWindow(box); });
+}
+
 void Play()
 {
     const Host host;
     const HWND main = host.WaitForWindow(L"TORVEX");
+    PictureOfProgram(host, main);
     PlayDialogs(host, main);
     PictureOfQuestion(host, main);
     PlayPages(host, main);

@@ -97,6 +97,7 @@ inline HWND PageOf(HWND sheet)
 /// The exit code of a play: 0 when all went as it should.
 template <class Playing> int Run(Playing play)
 {
+    SetProcessDPIAware(); // the places on a scaled display are asked for as they are
     try {
         play();
         return 0;

@@ -600,7 +600,7 @@ TEST_F(NcDefaults, NoTakesBackToTheOpeningAndTheSpanFilterToItsBuiltInValues)
     EXPECT_FALSE(ui::IsChecked(open.window, kToolbar));
     for (const int box : {kIcons, kClassic3Axis, kLastTool})
         EXPECT_TRUE(ui::IsChecked(open.window, box)) << box;
-    EXPECT_FALSE(ui::IsEnabled(open.window, kIcons)) << "only a click on a display mode enables it";
+    EXPECT_FALSE(ui::IsEnabled(open.window, kIcons)) << "only a click on a display mode and the defaults enable it";
     EXPECT_FALSE(ui::IsChecked(open.window, kFilterSpans));
     for (const int edit : {kMaxSpan, kArcTolerance}) {
         EXPECT_EQ(L"0.0010", ui::TextOf(open.window, edit));
@@ -695,18 +695,20 @@ TEST_F(NcDefaults, DefaultsAskForTheRestartAlthoughNothingChanges)
     EXPECT_TRUE(Asks(open));
 }
 
-TEST_F(NcDefaults, TheDefaultDisplayModeLeavesTheIconsBoxEnabledAsItWas)
+TEST_F(NcDefaults, TheIconsBoxIsEnabledWhereTheDefaultDisplayModeIsTheMenu)
 {
     OpenModal open(dialog, kTitle);
+    EXPECT_FALSE(ui::IsEnabled(open.window, kIcons));
     SendHostMessage(open.window, kSetDefaults);
     EXPECT_TRUE(ui::IsChecked(open.window, kMenu));
-    EXPECT_FALSE(ui::IsEnabled(open.window, kIcons));
-    ui::Click(open.window, kToolbar);
-    ui::Click(open.window, kMenu);
-    WriteFile(hostDefaults, "[DefaultDisplayParameter]\r\nNcDisplayMode=0\r\n");
-    SendHostMessage(open.window, kSetDefaults);
-    EXPECT_TRUE(ui::IsChecked(open.window, kToolbar));
     EXPECT_TRUE(ui::IsEnabled(open.window, kIcons));
+    for (const char* const mode : {"0", "7"}) {
+        ui::Click(open.window, kMenu);
+        EXPECT_TRUE(ui::IsEnabled(open.window, kIcons)) << mode;
+        WriteFile(hostDefaults, std::string("[DefaultDisplayParameter]\r\nNcDisplayMode=") + mode + "\r\n");
+        SendHostMessage(open.window, kSetDefaults);
+        EXPECT_FALSE(ui::IsEnabled(open.window, kIcons)) << mode;
+    }
 }
 
 TEST_F(NcDefaults, ADefaultDisplayModeThatIsNoneChoosesNothingAndIsStoredAsItIs)

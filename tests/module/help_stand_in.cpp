@@ -1,4 +1,7 @@
-// Stands in for the system's help viewer: records the file and the topic that it was asked to show.
+// Stands in for the system's help viewer: records the file and the topic that it was asked to show. For a program that
+// is watched from outside it also writes them, a line each, into the file that PELMAR_TEST_HELP_LOG names.
+#include <cstdlib>
+#include <fstream>
 #include <string>
 
 #include <windows.h>
@@ -13,6 +16,8 @@ extern "C" __declspec(dllexport) HWND WINAPI HtmlHelpA(HWND, const char* file, U
     constexpr UINT kDisplayTopic = 0;
     g_file = file;
     g_topic = command == kDisplayTopic ? reinterpret_cast<const char*>(data) : "<another command>";
+    if (const char* const log = std::getenv("PELMAR_TEST_HELP_LOG"))
+        std::ofstream(log, std::ios::app | std::ios::binary) << g_file << "\n" << g_topic << "\n";
     return nullptr;
 }
 
