@@ -272,7 +272,7 @@ void CMainFrame::ChangeUnits(int units)
         PendingSave().Save(IDS_WHAT_UNITS, [units] { SaveUnits(units); });
     m_units = units;
     const UINT item = units == 1 ? ID_UNITS_MILLIMETRE : ID_UNITS_INCH;
-    CheckMenuRadioItem(GetMenu(m_hWnd), ID_UNITS_INCH, ID_UNITS_MILLIMETRE, item, MF_BYCOMMAND);
+    CheckMenuRadioItem(::GetMenu(m_hWnd), ID_UNITS_INCH, ID_UNITS_MILLIMETRE, item, MF_BYCOMMAND);
 }
 
 void CMainFrame::ShowSettings()
