@@ -313,6 +313,8 @@ INT_PTR CPropertySheet::Show(HWND owner)
     AfxStopAwaiting();
     if (created == -1 || !m_hWnd)
         return -1;
+    if (!m_continuesModal) // ended before the loop
+        return m_nModalResult;
     if (const int told = RunModalLoop(MLF_SHOWONIDLE); told != -1)
         return told;
     return m_hWnd && SendMessage(PSM_GETRESULT) > 0 ? IDOK : IDCANCEL;

@@ -169,6 +169,61 @@ TEST_F(ModalLoop, EndsWithTheProgramAndLetsTheLoopsAroundItEndToo)
     EXPECT_EQ(42, code);
 }
 
+TEST_F(ModalLoop, MayEndBeforeItBegins)
+{
+    class CBriefSheet : public CPropertySheet {
+    public:
+        CBriefSheet() : CPropertySheet(L"Параметры") {}
+        BOOL OnInitDialog() override
+        {
+            EndModalLoop(5);
+            return CPropertySheet::OnInitDialog();
+        }
+    };
+    Log log;
+    CNotingPage page("one", log);
+    CBriefSheet sheet;
+    sheet.AddPage(&page);
+    EXPECT_EQ(5, ui::On([&] { return sheet.DoModal(); }));
+    EXPECT_EQ(nullptr, sheet.m_hWnd);
+}
+
+/// Has an accelerator, as any window that is asked before its messages are dispatched may.
+class CSearchDialog : public CDialog {
+public:
+    CSearchDialog() : CDialog(IDD_NUMBER)
+    {
+        ACCEL search{FVIRTKEY, VK_F3, 0x8007};
+        m_accelerators = CreateAcceleratorTable(&search, 1);
+    }
+    ~CSearchDialog() override { DestroyAcceleratorTable(m_accelerators); }
+    BOOL PreTranslateMessage(MSG* message) override
+    {
+        return TranslateAccelerator(m_hWnd, m_accelerators, message) || CDialog::PreTranslateMessage(message);
+    }
+    int searches = 0;
+
+protected:
+    void OnSearch() { ++searches; }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    HACCEL m_accelerators;
+};
+
+BEGIN_MESSAGE_MAP(CSearchDialog, CDialog)
+    ON_COMMAND(0x8007, &CSearchDialog::OnSearch)
+END_MESSAGE_MAP()
+
+TEST_F(ModalLoop, LetsADialogHaveAccelerators)
+{
+    CSearchDialog dialog;
+    Modal open(dialog, L"Проба");
+    ui::Press(ui::Focus(open.window), VK_F3);
+    EXPECT_EQ(1, dialog.searches);
+    open.CloseBy(IDCANCEL);
+}
+
 TEST_F(ModalLoop, RunsForAnyWindow)
 {
     CWnd window;
