@@ -133,7 +133,7 @@ private:
     {
         const int whole = static_cast<int>(m_option->whole ? number : 0);
         if (m_option->kind == OptionKind::Switch)
-            return LoadText(IsShownAsChecked(whole) ? IDS_YES : IDS_NO);
+            return LoadText(m_option->IsOn(whole) ? IDS_YES : IDS_NO);
         if (m_option->kind == OptionKind::Choice && !TextOfItem(whole).IsEmpty())
             return TextOfItem(whole);
         CString text = m_option->whole ? FromUtf8(std::to_string(whole)) : FromUtf8(ShownReal(number));
@@ -146,7 +146,7 @@ private:
     bool Differs(double number, const void* factory) const
     {
         if (m_option->kind == OptionKind::Switch)
-            return IsChecked(m_window, m_control.id) != IsShownAsChecked(static_cast<int>(number));
+            return IsOnNow() != m_option->IsOn(static_cast<int>(number));
         if (m_control.kind == ControlKind::List)
             return ChosenNow(m_control) != static_cast<int>(number);
         const CString text = TextOfControl(m_window, m_control.id);
@@ -177,9 +177,11 @@ private:
         return index ? *index + list.option->firstChoice : list.option->Whole(m_data.record);
     }
 
-    bool IsShownAsChecked(int value) const
+    /// A box that the exchange shows the other way round than a click is taken says nothing by itself.
+    bool IsOnNow() const
     {
-        return m_control.isExchangedAsItStands ? value == 1 : m_option->IsOn(value);
+        return m_control.isExchangedAsItStands ? m_option->IsOn(m_option->Whole(m_data.record))
+                                               : IsChecked(m_window, m_control.id);
     }
 
     CString TextOfItem(int value) const

@@ -69,13 +69,13 @@ CPoint Pointer()
     return place;
 }
 
-/// The library may be loaded again after an end that left its class behind.
+/// Of the program, as all windows of the framework are. Nothing of the library's is in it: it may stay behind.
 void RegisterTipClass()
 {
     WNDCLASS windowClass{};
     windowClass.style = CS_SAVEBITS | CS_DROPSHADOW;
     windowClass.lpfnWndProc = ::DefWindowProc;
-    windowClass.hInstance = ModuleInstance();
+    windowClass.hInstance = AfxGetInstanceHandle();
     windowClass.hCursor = LoadCursor(nullptr, IDC_ARROW);
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_INFOBK + 1));
     windowClass.lpszClassName = kClassName;

@@ -8,7 +8,6 @@
 #include "PelmarDlgs/evaluator.h"
 #include "PelmarDlgs/settings_values.h"
 #include "frame/number_text.h"
-#include "records/shown_value.h"
 
 namespace pelmar::review {
 namespace {

@@ -1,7 +1,6 @@
 #include "review/values.h"
 
 #include "PelmarDlgs/settings_values.h"
-#include "records/shown_value.h"
 #include "resources/resource.h"
 
 namespace pelmar::review {

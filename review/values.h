@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "records/shown_value.h"
 #include "review/setting.h"
 #include "review/settings_text.h"
 #include "review/words.h"
@@ -52,6 +53,7 @@ private:
     std::vector<std::string> m_texts;
 };
 
+using pelmar::IsSameNumber;
 bool IsSameValue(const Setting& setting, const Values& one, const Values& other);
 
 /// A value as people read it: an item's text, yes or no, a number without needless digits.

@@ -9,7 +9,6 @@
 #include <string_view>
 
 #include "frame/number_text.h"
-#include "records/shown_value.h"
 #include "review/changes.h"
 
 using namespace pelmar;

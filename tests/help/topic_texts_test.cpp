@@ -52,6 +52,27 @@ TEST(TopicTexts, FallBackToTheTopicWhereThereIsNoPartOfThatLabel)
     EXPECT_EQ(FirstSentenceOf(topic), FirstSentenceOf(topic, "Плоскость безопасности"));
 }
 
+TEST(TopicTexts, HaveTheSentenceThatNamesAnItemOfAList)
+{
+    const std::string_view corner = "pelmar-_optionspopups_hidc_2axisopts_corner_ang_type.htm";
+    EXPECT_TRUE(SentenceOnItem(corner, "Обход угла контура (30-150)", "Дуга").starts_with("«Дуга» обкатывает вершину"));
+    EXPECT_TRUE(SentenceOnItem(corner, "", "Прямая").starts_with("«Прямая» продолжает"));
+    // Under its label in a page's own topic, and with a full stop in an item.
+    const std::string_view page = "pelmar-_options_hidd_2axis_cut_opt.htm";
+    EXPECT_TRUE(SentenceOnItem(page, "Схема обработки", "По зигзагу").starts_with("«По зигзагу» режет"));
+    const std::string_view finish = "pelmar-_optionspopups_hidc_2axisopts_finish_cut_on.htm";
+    EXPECT_TRUE(SentenceOnItem(finish, "", "Конечн. глубина").ends_with("на полной глубине."));
+    // A link stands with the other topic's title.
+    const std::string_view nesting = "pelmar-_optionspopups_hidc_2axisopts_nesting_depth_type.htm";
+    EXPECT_TRUE(SentenceOnItem(nesting, "", "Все").ends_with("из поля «Глубина вложения»."));
+}
+
+TEST(TopicTexts, SayNothingOfAnItemThatNoSentenceNames)
+{
+    EXPECT_EQ("", SentenceOnItem("pelmar-_optionspopups_hidc_2axisopts_corner_ang_type.htm", "", "Вложенные"));
+    EXPECT_EQ("", SentenceOnItem("no_such_topic.htm", "", "Дуга"));
+}
+
 TEST(TopicTexts, AreEmptyForAnUnknownTopic)
 {
     EXPECT_EQ("", FirstSentenceOf("no_such_topic.htm"));

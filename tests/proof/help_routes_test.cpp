@@ -53,13 +53,15 @@ std::string TopicOf(HWND window, int id, const std::function<void()>& ask)
 /// The "?" pointer clicks on a control: the system tells the control so.
 void ClickWithQuestionMark(HWND control)
 {
-    HELPINFO info{};
-    info.cbSize = sizeof info;
-    info.iContextType = HELPINFO_WINDOW;
-    info.iCtrlId = GetDlgCtrlID(control);
-    info.hItemHandle = control;
-    GetCursorPos(&info.MousePos);
-    SendMessage(control, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+    ui::UiThread::Get().Call([control] {
+        HELPINFO info{};
+        info.cbSize = sizeof info;
+        info.iContextType = HELPINFO_WINDOW;
+        info.iCtrlId = GetDlgCtrlID(control);
+        info.hItemHandle = control;
+        GetCursorPos(&info.MousePos);
+        SendMessage(control, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+    });
 }
 
 const PageFacts& FactsOf(int templateId)

@@ -46,7 +46,10 @@ std::string Shown(const Lines& lines)
     std::wstring all;
     for (const std::wstring& line : lines)
         all += line + L"\n";
-    return std::string(CStringA(CString(all.c_str())));
+    std::string utf8(all.size() * 3, '\0'); // no UTF-16 unit takes more
+    utf8.resize(static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, all.c_str(), static_cast<int>(all.size()),
+                                                        utf8.data(), static_cast<int>(utf8.size()), nullptr, nullptr)));
+    return utf8;
 }
 
 // ---- every page ----
@@ -236,8 +239,6 @@ protected:
     std::unique_ptr<OpenSheet> sheet;
 };
 
-constexpr wchar_t kRapidPlane[] = L"Высота, на которой инструмент ходит над деталью ускоренно между местами обработки.";
-
 TEST_F(Tips2x, OfALengthInInch)
 {
     GetLast2xOptions()->RapidPlunge = 0.5;
@@ -325,9 +326,9 @@ TEST_F(Tips2x, OfAListTellOfTheChosenItem)
 
 TEST_F(Tips2x, OfABoxTellItsFactoryState)
 {
-    GetLast2xOptions()->DepthFirst = 0;
+    GetLast2xOptions()->DepthFirst = 1;
     Open(kInch);
-    EXPECT_TRUE(Holds(On(IDC_2X_DEPTH_FIRST), L"Заводское значение: Нет"));
+    EXPECT_TRUE(Holds(On(IDC_2X_DEPTH_FIRST), L"Заводское значение: Да"));
     EXPECT_TRUE(Holds(On(IDC_2X_DEPTH_FIRST), kSame));
     ui::Click(sheet->Page(), IDC_2X_DEPTH_FIRST);
     EXPECT_TRUE(Holds(On(IDC_2X_DEPTH_FIRST), kDiffers));
