@@ -765,15 +765,6 @@ SettingPlace CSettingsReviewDlg::Destination() const
     return m_state->destination;
 }
 
-LRESULT CSettingsReviewDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    WatchForContextHelp(message, wParam);
-    if (message != WM_HELP)
-        return CNCDialog::WindowProc(message, wParam, lParam);
-    OnHelp();
-    return 1;
-}
-
 void CSettingsReviewDlg::OnOK()
 {
     if (!UpdateData(TRUE))

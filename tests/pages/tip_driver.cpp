@@ -1,5 +1,6 @@
 #include "pages/tip_driver.h"
 
+#include <cstdlib>
 #include <stdexcept>
 
 #include "ui/ui_thread.h"
@@ -30,6 +31,18 @@ UINT RestMilliseconds()
     return milliseconds;
 }
 
+/// Whether a tip is one of this control's: right below or above it.
+bool IsBeside(HWND tip, HWND control)
+{
+    RECT tipArea{};
+    RECT area{};
+    GetWindowRect(tip, &tipArea);
+    GetWindowRect(control, &area);
+    constexpr int kNear = 5;
+    const bool isNear = std::abs(tipArea.top - area.bottom) < kNear || std::abs(area.top - tipArea.bottom) < kNear;
+    return isNear && tipArea.left < area.right && tipArea.right > area.left;
+}
+
 volatile LONG g_isOver = 0;
 
 void CALLBACK OnOver(HWND, UINT, UINT_PTR timer, DWORD)
@@ -51,6 +64,8 @@ void WaitForRest()
 
 ShortRests::ShortRests()
 {
+    // Out of the way: what the display reports of its own pointer, early or late, is on no window.
+    SetCursorPos(0, 0);
     m_before = RestMilliseconds();
     SystemParametersInfo(SPI_SETMOUSEHOVERTIME, USER_TIMER_MINIMUM, nullptr, 0);
 }
@@ -58,6 +73,14 @@ ShortRests::ShortRests()
 ShortRests::~ShortRests()
 {
     SystemParametersInfo(SPI_SETMOUSEHOVERTIME, m_before, nullptr, 0);
+}
+
+bool RestOn(HWND dialog, int id)
+{
+    constexpr DWORD kOneRest = 2000;
+    MoveAway(dialog);
+    MoveOver(dialog, id);
+    return ui::WaitUntil([=] { return OpenTip() && IsBeside(OpenTip(), ui::Control(dialog, id)); }, kOneRest);
 }
 
 HWND OpenTip()
@@ -84,15 +107,11 @@ void MoveAway(HWND dialog)
 
 std::vector<std::wstring> TipOn(HWND dialog, int id)
 {
-    constexpr DWORD kOneRest = 2000;
     std::wstring text;
     // The display's own pointer may jump, which takes an open tip away: the person rests once more then.
     const auto rests = [&] {
-        MoveAway(dialog);
-        MoveOver(dialog, id);
-        ui::WaitUntil([] { return OpenTip() != nullptr; }, kOneRest);
-        if (const HWND tip = OpenTip())
-            text = ui::TextOf(tip);
+        if (RestOn(dialog, id))
+            text = ui::TextOf(OpenTip());
         return !text.empty();
     };
     if (!ui::WaitUntil(rests))

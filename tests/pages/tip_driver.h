@@ -25,6 +25,8 @@ HWND OpenTip();
 void MoveOver(HWND dialog, int id);
 /// Moves it to a corner of the dialog, where nothing is.
 void MoveAway(HWND dialog);
+/// Rests on a control. Whether its tip has come; an open one stays until the pointer is moved.
+bool RestOn(HWND dialog, int id);
 /// Rests on a control: the lines of the tip that comes up.
 std::vector<std::wstring> TipOn(HWND dialog, int id);
 /// Rests on a control for the time that a tip takes. Whether one has come.

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <windowsx.h>
 
 #include "description/description.h"
 #include "dialogs/dialog_driver.h"
@@ -31,9 +32,9 @@ std::string TopicAfter(const std::function<void()>& ask)
     return LastTopicShown();
 }
 
-/// Asks with the pointer on a control. The display reports the pointer's earlier moves late, so that it may jump: asked
-/// once more then.
-std::string TopicOf(HWND window, int id, const std::function<void()>& ask)
+/// Asks with the pointer on a control. `ask` says whether the question bore that place: the display reports the
+/// pointer's earlier moves late, so that it may jump back for a moment. Asked once more then.
+std::string TopicOf(HWND window, int id, const std::function<bool(const RECT& area)>& ask)
 {
     const HWND control = ui::Control(window, id);
     RECT area;
@@ -41,13 +42,28 @@ std::string TopicOf(HWND window, int id, const std::function<void()>& ask)
     std::string topic;
     const bool stayed = ui::WaitUntil([&] {
         ui::PointAt(control);
-        topic = TopicAfter(ask);
-        POINT pointer;
-        GetCursorPos(&pointer);
-        return PtInRect(&area, pointer) != FALSE;
+        bool isThere = false;
+        topic = TopicAfter([&] { isThere = ask(area); });
+        return isThere;
     });
     EXPECT_TRUE(stayed);
     return topic;
+}
+
+bool IsIn(const RECT& area, DWORD place)
+{
+    return PtInRect(&area, {GET_X_LPARAM(place), GET_Y_LPARAM(place)}) != FALSE;
+}
+
+/// A question that is asked within one message, which bears its place.
+std::function<bool(const RECT& area)> AtOnce(const std::function<void()>& ask)
+{
+    return [ask](const RECT& area) {
+        return ui::On([&] {
+            ask();
+            return IsIn(area, GetMessagePos());
+        });
+    };
 }
 
 /// The "?" pointer clicks on a control: the system tells the control so.
@@ -103,8 +119,8 @@ void ExpectEveryRoute(HWND window, const PageFacts& facts)
     for (const int id : ids) {
         const HWND control = ui::Control(window, id);
         EXPECT_EQ(facts.topic, TopicAfter([&] { ui::PressF1(control); })) << id;
-        EXPECT_EQ(TopicIn(facts, id), TopicOf(window, id, [&] { ui::PressF1(control, true); })) << id;
-        EXPECT_EQ(TopicIn(facts, id), TopicOf(window, id, [&] { ClickWithQuestionMark(control); })) << id;
+        EXPECT_EQ(TopicIn(facts, id), TopicOf(window, id, AtOnce([&] { ui::PressF1(control, true); }))) << id;
+        EXPECT_EQ(TopicIn(facts, id), TopicOf(window, id, AtOnce([&] { ClickWithQuestionMark(control); }))) << id;
     }
 }
 
@@ -160,11 +176,14 @@ protected:
             ui::Settle(window);
             EXPECT_TRUE(IsHelpMode());
         };
-        EXPECT_EQ(TopicIn(facts, id), TopicOf(window, id, [&] {
+        EXPECT_EQ(TopicIn(facts, id), TopicOf(window, id, [&](const RECT& area) {
                       pressCaption();
                       PostMessage(control, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(2, 2));
                       PostMessage(control, WM_LBUTTONUP, 0, MAKELPARAM(2, 2));
+                      POINT pointer;
+                      GetCursorPos(&pointer); // as it is when the messages are posted
                       ui::Settle(window);
+                      return PtInRect(&area, pointer) != FALSE;
                   }));
         EXPECT_EQ("none", TopicAfter([&] {
                       pressCaption();
@@ -204,6 +223,14 @@ TEST_F(HelpOfDialog, OfTheDefaultToolsComesByEveryRoute)
     EXPECT_EQ(facts.topic, TopicAfter([&] { ui::Click(open.window, ID_HELP); }));
     ExpectQuestionMark(open.window, facts, IDCANCEL);
     EXPECT_TRUE(ui::UiThread::Get().WaitForStarted());
+}
+
+TEST_F(HelpOfDialog, OfTheSettingsReviewComesByEveryRoute)
+{
+    CSettingsReviewDlg dialog;
+    OpenModal open(dialog, L"Проверка параметров");
+    ExpectEveryRoute(open.window, FactsOf(CSettingsReviewDlg::IDD));
+    open.End(IDCANCEL);
 }
 
 template <class Dialog, class Fill> void ExpectEveryRouteInside(const Fill& fill)

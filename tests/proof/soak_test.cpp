@@ -74,7 +74,7 @@ bool GoOnUntil(const std::function<bool()>& condition)
 }
 
 /// Rests the pointer on controls until their tips come, and leaves them.
-void RestOn(HWND dialog, std::initializer_list<int> ids)
+void RestOnAll(HWND dialog, std::initializer_list<int> ids)
 {
     const HWND root = GetAncestor(dialog, GA_ROOT);
     for (const int id : ids) {
@@ -102,7 +102,7 @@ void RestOnFirst(HWND page)
     for (const wchar_t* const kind : {L"Edit", L"ComboBox"})
         for (const HWND control : ui::Children(page))
             if (ui::ClassOf(control) == kind && IsWindowVisible(control)) {
-                RestOn(page, {GetDlgCtrlID(control)});
+                RestOnAll(page, {GetDlgCtrlID(control)});
                 break;
             }
 }
@@ -189,7 +189,7 @@ template <class Dialog, class Fill> void Soak(Fill fill, std::initializer_list<i
             fill(dialog);
             Use(dialog.m_hWnd);
             dialog.ShowWindow(SW_SHOW);
-            RestOn(dialog.m_hWnd, rests);
+            RestOnAll(dialog.m_hWnd, rests);
             dialog.SendMessage(kSetDefaultsMessage);
             dialog.UpdateData(TRUE);
             dialog.DestroyWindow();
@@ -238,7 +238,7 @@ template <class Dialog, class Fill> void SoakInside(Fill fill, std::initializer_
             fill(dialog);
             dialog.ShowWindow(SW_SHOW);
             Use(dialog.m_hWnd);
-            RestOn(dialog.m_hWnd, rests);
+            RestOnAll(dialog.m_hWnd, rests);
             dialog.UpdateData(TRUE);
             dialog.DestroyWindow();
         },

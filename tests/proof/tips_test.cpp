@@ -361,11 +361,7 @@ TEST_F(Tips2x, StandBesideTheControlWithItsDrawing)
     const HWND window = sheet->Page();
     RECT plain{}, drawn{}, field{};
     const auto open = [&](int id, RECT& place) {
-        return ui::WaitUntil([&] {
-            MoveAway(window);
-            MoveOver(window, id);
-            return ui::WaitUntil([] { return OpenTip() != nullptr; }, 2000) && GetWindowRect(OpenTip(), &place);
-        });
+        return ui::WaitUntil([&] { return RestOn(window, id) && GetWindowRect(OpenTip(), &place); });
     };
     ASSERT_TRUE(open(IDC_2X_DEPTH_FIRST, plain));
     ASSERT_TRUE(open(IDC_2X_SIDE_ROUGH_STEP, drawn));
@@ -376,18 +372,12 @@ TEST_F(Tips2x, StandBesideTheControlWithItsDrawing)
     MoveAway(window);
 }
 
-TEST_F(Tips2x, GoWithAKeyAClickAndThePointerAndComeOnlyOnceForOneRest)
+TEST_F(Tips2x, GoWithAKeyAClickAndThePointer)
 {
     Open(kInch);
     const HWND window = sheet->Page();
     const HWND edit = ui::Control(window, IDC_2X_RAPID_PLUNGE);
-    const auto rest = [&] {
-        return ui::WaitUntil([&] {
-            MoveAway(window);
-            MoveOver(window, IDC_2X_RAPID_PLUNGE);
-            return ui::WaitUntil([] { return OpenTip() != nullptr; }, 2000);
-        });
-    };
+    const auto rest = [&] { return ui::WaitUntil([&] { return RestOn(window, IDC_2X_RAPID_PLUNGE); }); };
     ASSERT_TRUE(rest());
     MoveAway(window);
     EXPECT_EQ(nullptr, OpenTip());
@@ -408,11 +398,7 @@ TEST_F(Tips2x, GoWithTheirPage)
     page = std::make_unique<CDefs2xPage>();
     sheet = std::make_unique<OpenSheet>(std::vector<CPropertyPage*>{page.get(), &other});
     const HWND window = sheet->Page();
-    ASSERT_TRUE(ui::WaitUntil([&] {
-        MoveAway(window);
-        MoveOver(window, IDC_2X_RAPID_PLUNGE);
-        return ui::WaitUntil([] { return OpenTip() != nullptr; }, 2000);
-    }));
+    ASSERT_TRUE(ui::WaitUntil([&] { return RestOn(window, IDC_2X_RAPID_PLUNGE); }));
     sheet->Switch(1);
     EXPECT_TRUE(ui::WaitUntil([] { return !OpenTip(); }));
     sheet->Cancel();

@@ -56,7 +56,6 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnOK() override;
     void OnCancel() override;
 
