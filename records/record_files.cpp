@@ -7,29 +7,21 @@
 namespace pelmar {
 namespace {
 
-class SettingsFile final : public ValueSource {
+/// One of the library's files, by the functions that read it.
+template <auto readWhole, auto readReal> class LibraryFile final : public ValueSource {
 public:
     int Whole(const char* section, const char* key, int fallback) const override
     {
-        return ReadWhole(section, key, fallback);
+        return readWhole(section, key, fallback);
     }
     double Real(const char* section, const char* key, double fallback) const override
     {
-        return ReadReal(section, key, fallback);
+        return readReal(section, key, fallback);
     }
 };
 
-class DefaultsFile final : public ValueSource {
-public:
-    int Whole(const char* section, const char* key, int fallback) const override
-    {
-        return ReadDefaultWhole(section, key, fallback);
-    }
-    double Real(const char* section, const char* key, double fallback) const override
-    {
-        return ReadDefaultReal(section, key, fallback);
-    }
-};
+using SettingsFile = LibraryFile<ReadWhole, ReadReal>;
+using DefaultsFile = LibraryFile<ReadDefaultWhole, ReadDefaultReal>;
 
 } // namespace
 

@@ -257,9 +257,7 @@ bool Listing::IsDifferent(const Setting& setting) const
 
 std::string Listing::ValueWithUnit(const Setting& setting, const Values& values) const
 {
-    const std::string unit = ShownUnit(setting, values);
-    const bool isJoined = unit == "°" || unit == "%";
-    return ShownValue(setting, values, m_words) + (unit.empty() || isJoined ? "" : " ") + unit;
+    return WithUnit(ShownValue(setting, values, m_words), ShownUnit(setting, values));
 }
 
 std::string Listing::FindingText(ListingRow& row) const

@@ -67,14 +67,42 @@ std::optional<int> FirstField(HWND page)
     return {};
 }
 
-/// A picture of a box together with the window that it has come up over.
-void PictureOfBox(HWND window, const ui::MessageBoxSeen& box, const std::string& name)
+/// A picture of a window together with the one that has come up over it.
+void PictureOfBoth(HWND window, HWND above, const std::string& name)
 {
     const RECT windowArea = AreaOf(window);
-    const RECT boxArea = AreaOf(box.window);
+    const RECT areaAbove = AreaOf(above);
     RECT both;
-    UnionRect(&both, &windowArea, &boxArea);
-    TakeShot(box.window, name, &both);
+    UnionRect(&both, &windowArea, &areaAbove);
+    TakeShot(above, name, &both);
+}
+
+/// The open tip of any program; there is one host only.
+HWND OpenTip()
+{
+    const HWND tip = FindWindowW(L"PelmarDlgs.Tip", nullptr);
+    return tip && IsWindowVisible(tip) ? tip : nullptr;
+}
+
+void MoveTo(HWND window, LONG x, LONG y)
+{
+    POINT place{x, y};
+    ScreenToClient(window, &place);
+    PostMessage(window, WM_MOUSEMOVE, 0, MAKELPARAM(place.x, place.y));
+    ui::Settle(window);
+}
+
+/// Rests the pointer on a control and takes a picture of the tip that comes; where a control is disabled, its page has
+/// the pointer.
+void PictureOfTip(HWND sheet, HWND page, int id, const std::string& name)
+{
+    const HWND control = ui::Control(page, id);
+    const RECT area = AreaOf(control);
+    MoveTo(IsWindowEnabled(control) ? control : page, (area.left + area.right) / 2, (area.top + area.bottom) / 2);
+    ExpectSoon("the tip comes", [] { return OpenTip() != nullptr; });
+    PictureOfBoth(sheet, OpenTip(), name);
+    MoveTo(page, AreaOf(page).left, AreaOf(page).top);
+    ExpectSoon("the tip goes", [] { return OpenTip() == nullptr; });
 }
 
 /// Types what no field takes, asks for the window's data to be stored, and takes a picture of the prompt. The field is
@@ -88,7 +116,7 @@ void PictureOfPrompt(const Host& host, HWND window, HWND page, const std::string
     ui::Type(page, *field, L"1/8+");
     PostMessage(window, WM_COMMAND, IDOK, 0);
     const ui::MessageBoxSeen box = ui::WaitForBox(host.Id());
-    PictureOfBox(window, box, name);
+    PictureOfBoth(window, box.window, name);
     ui::Answer(box, IDOK);
     ui::Type(page, *field, before);
     // The host reads what is typed in its own time: the page is not to be turned before it has.
@@ -120,12 +148,32 @@ void PictureOfLatheAxes(const Host& host, HWND page)
     Close(sheet);
 }
 
+/// The options that a tip is shown of, with a drawing and without.
+struct TipRow {
+    const char* page;
+    int control;
+};
+constexpr TipRow kTips[] = {
+    {"2-axis", IDC_2X_SIDE_ROUGH_STEP},
+    {"3-axis", IDC_3X_SCALLOP_SAMPLE},
+    {"z-rough", IDC_ZR_SIDE_CLEARANCE_TYPE},
+    {"holes", IDC_HOLE_STEP_UP},
+};
+
+void PicturesOfTips(HWND sheet, HWND page, const std::string& name, const std::string& state)
+{
+    for (const TipRow& tip : kTips)
+        if (tip.page == name)
+            PictureOfTip(sheet, page, tip.control, name + state);
+}
+
 void PlayPages(const Host& host, HWND main)
 {
     HWND sheet = OpenSheet(host, main, ID_NC_OPTIONS);
     for (size_t index = 0; index < std::size(kPages); ++index) {
         const HWND page = TurnTo(sheet, index);
         Picture(sheet, kPages[index]);
+        PicturesOfTips(sheet, page, kPages[index], "-tip");
         PictureOfPrompt(host, sheet, page, std::string(kPages[index]) + "-refused");
         if (std::string(kPages[index]) == "4-axis")
             PictureOfRotaryDialog(host, page);
@@ -196,7 +244,7 @@ void PictureOfQuestion(const Host& host, HWND main)
     const HWND dialog = host.WaitForWindow(L"Файл параметров ЧПУ");
     PostMessage(dialog, WM_COMMAND, IDOK, 0);
     const ui::MessageBoxSeen box = ui::WaitForBox(host.Id());
-    PictureOfBox(dialog, box, "defaults-file-question");
+    PictureOfBoth(dialog, box.window, "defaults-file-question");
     ui::Answer(box, IDNO);
     ExpectSoon("the dialog is closed", [&] { return !IsWindow(dialog); });
 }
@@ -251,7 +299,7 @@ void PlayReview(const Host& host, HWND main)
     Picture(dialog, "settings-review-edited");
     ui::Press(cell, VK_RETURN);
     const ui::MessageBoxSeen box = ui::WaitForBox(host.Id());
-    PictureOfBox(dialog, box, "settings-review-refused");
+    PictureOfBoth(dialog, box.window, "settings-review-refused");
     ui::Answer(box, IDOK);
     ui::Press(cell, VK_ESCAPE);
     ExpectSoon("the edit is left", [&] { return !IsWindow(cell); });

@@ -100,11 +100,27 @@ protected:
         record.save();
         return EntriesOf(host.ReadSettings());
     }
-    std::string FileWith(size_t index, const std::string& text) const
+    std::string FileWith(const std::vector<size_t>& places, const std::string& text) const
     {
         std::vector<Entry> changed = entries;
-        changed[index].text = text;
+        for (const size_t place : places)
+            changed[place].text = text;
         return FileOf(changed);
+    }
+    /// Which entries get a hostile value at the same time: every third, so that each stands between sound ones, and the
+    /// units, which all lengths depend on, alone.
+    std::vector<std::vector<size_t>> PlacesOfHostileValues() const
+    {
+        constexpr size_t kApart = 3;
+        std::vector<std::vector<size_t>> all(kApart);
+        for (size_t place = 0; place < entries.size(); ++place) {
+            if (entries[place].key == "Units")
+                all.push_back({place});
+            else if (!HasRuleOfItsOwn(entries[place]))
+                all[place % kApart].push_back(place);
+        }
+        std::erase_if(all, [](const std::vector<size_t>& places) { return places.empty(); });
+        return all;
     }
 
     HostFolder host;
@@ -115,32 +131,33 @@ protected:
 TEST_P(HostileSettings, EachValueYieldsItsFallbackAndTouchesNoOther)
 {
     ASSERT_FALSE(entries.empty());
-    for (size_t index = 0; index < entries.size(); ++index) {
-        if (HasRuleOfItsOwn(entries[index]))
-            continue;
+    for (const std::vector<size_t>& places : PlacesOfHostileValues()) {
         for (const std::string& hostile : HostileTexts()) {
             Restore(FileOf(entries));
-            Restore(FileWith(index, hostile));
-            const std::string expected = Expected(entries[index], hostile, host.settings);
-            EXPECT_EQ(FileWith(index, expected), FileOf(Saved())) << entries[index].key << "=" << hostile.substr(0, 20);
+            Restore(FileWith(places, hostile));
+            std::vector<Entry> expected = entries;
+            for (const size_t place : places)
+                expected[place].text = Expected(entries[place], hostile, host.settings);
+            EXPECT_EQ(FileOf(expected), FileOf(Saved())) << entries[places.front()].key << "=" << hostile.substr(0, 20);
         }
     }
 }
 
 TEST_P(HostileSettings, EachDefaultYieldsItsFallbackAndTouchesNoOther)
 {
-    for (size_t index = 0; index < entries.size(); ++index) {
-        const Option* const option = OptionOf(entries[index]);
+    for (const std::vector<size_t>& places : PlacesOfHostileValues()) {
         // Units of no sense scale all lengths there and back.
-        if (entries[index].key == "Units" || HasRuleOfItsOwn(entries[index]))
+        if (entries[places.front()].key == "Units")
             continue;
         for (const std::string& hostile : HostileTexts()) {
-            host.WriteDefaults(FileWith(index, hostile));
+            host.WriteDefaults(FileWith(places, hostile));
             record.defaults();
-            const std::string expected =
-                !option || option->inDefaults ? Expected(entries[index], hostile, host.defaults) : entries[index].text;
-            EXPECT_EQ(FileWith(index, expected), FileOf(Saved())) << entries[index].key << "=" << hostile.substr(0, 20);
-            EXPECT_EQ(FileWith(index, hostile), ReadFile(host.defaults));
+            std::vector<Entry> expected = entries;
+            for (const size_t place : places)
+                if (const Option* const option = OptionOf(entries[place]); !option || option->inDefaults)
+                    expected[place].text = Expected(entries[place], hostile, host.defaults);
+            EXPECT_EQ(FileOf(expected), FileOf(Saved())) << entries[places.front()].key << "=" << hostile.substr(0, 20);
+            EXPECT_EQ(FileWith(places, hostile), ReadFile(host.defaults));
         }
     }
 }
@@ -151,7 +168,7 @@ TEST_P(HostileSettings, AValueInBoundsStaysAndTouchesNoneThatHasNoBounds)
         if (!HasRuleOfItsOwn(entries[index]))
             continue;
         for (const std::string& hostile : HostileTexts()) {
-            Restore(FileWith(index, hostile));
+            Restore(FileWith({index}, hostile));
             const std::vector<Entry> first = Saved();
             EXPECT_EQ(FileOf(WithoutRules(entries)), FileOf(WithoutRules(first)));
             Restore(FileOf(first));
@@ -210,7 +227,7 @@ TEST_P(HostileSettings, AFolderInTheFilesPlaceKeepsTheRecordAndSavingDoesNoHarm)
 TEST_P(HostileSettings, AFileThatMayOnlyBeReadIsReadAndStaysAsItIs)
 {
     const auto units = std::ranges::find(entries, "Units", &Entry::key);
-    const std::string metric = FileWith(static_cast<size_t>(units - entries.begin()), "1");
+    const std::string metric = FileWith({static_cast<size_t>(units - entries.begin())}, "1");
     host.WriteSettings(metric);
     SetFileAttributesA(host.settings.c_str(), FILE_ATTRIBUTE_READONLY);
     record.restore();

@@ -25,7 +25,7 @@ constexpr UINT kCloseOpened = WM_APP + 11;
 size_t Rounds()
 {
     const char* const rounds = std::getenv("PELMAR_SOAK_ROUNDS");
-    return rounds ? std::strtoul(rounds, nullptr, 10) : 50;
+    return rounds ? std::strtoul(rounds, nullptr, 10) : 20;
 }
 
 /// Types into the first field, chooses from the first list and clicks the first box of a page or dialog.
