@@ -212,8 +212,17 @@ LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam)
 }
 } // namespace
 
+/// A window may be one of the common controls, or a dialog that holds some. Their library connects to the display when
+/// it is loaded, which a program that shows nothing need not wait for.
+static void LoadCommonControls()
+{
+    constexpr INITCOMMONCONTROLSEX kClasses{sizeof kClasses, ICC_WIN95_CLASSES};
+    [[maybe_unused]] static const BOOL isLoaded = InitCommonControlsEx(&kClasses);
+}
+
 void AfxAwaitWindow(CWnd* object, HWND parent)
 {
+    LoadCommonControls();
     AfxState& state = AfxGetState();
     if (!state.creationHook)
         state.creationHook = SetWindowsHookEx(WH_CBT, CreationHook, nullptr, GetCurrentThreadId());
