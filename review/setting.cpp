@@ -29,7 +29,7 @@ std::vector<Setting> MakeSettings()
 /// How many letters must be put in, left out, replaced, or changed with their neighbour.
 std::size_t DistanceOf(std::string_view one, std::string_view other)
 {
-    std::vector<std::size_t> before;
+    std::vector<std::size_t> before(other.size() + 1);
     std::vector<std::size_t> last(other.size() + 1);
     std::vector<std::size_t> row(other.size() + 1);
     std::iota(last.begin(), last.end(), std::size_t{0});
@@ -41,7 +41,7 @@ std::size_t DistanceOf(std::string_view one, std::string_view other)
             if (isSwapped)
                 row[j] = std::min(row[j], before[j - 2] + 1);
         }
-        before = last;
+        std::swap(before, last);
         std::swap(last, row);
     }
     return last.back();

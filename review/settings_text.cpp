@@ -8,17 +8,22 @@
 namespace pelmar::review {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\v\f\r\n\x1a"; // the last one ended files once
 constexpr int kStoredDecimals = 6;
 constexpr std::size_t kLongestReal = 255; // what is longer is cut off there before it is read
 constexpr std::size_t kLongestWhole = 29;
 
+constexpr bool IsBlank(char letter)
+{
+    return letter == ' ' || (letter >= '\t' && letter <= '\r') || letter == '\x1a'; // that one ended files once
+}
+
 std::string_view Trimmed(std::string_view text)
 {
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+    while (!text.empty() && IsBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && IsBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 TextState StateOf(std::string_view bytes)
@@ -39,10 +44,17 @@ TextState StateOf(std::string_view bytes)
 /// A carriage return, a line feed or both end a line.
 std::size_t EndOfLine(std::string_view rest)
 {
-    const std::size_t end = rest.find_first_of("\r\n");
-    if (end == std::string_view::npos)
-        return rest.size();
+    const auto isEnd = [](char letter) { return letter == '\r' || letter == '\n'; };
+    const auto end = static_cast<std::size_t>(std::ranges::find_if(rest, isEnd) - rest.begin());
+    if (end == rest.size())
+        return end;
     return rest.substr(end).starts_with("\r\n") ? end + 2 : end + 1;
+}
+
+/// Where the name in brackets ends that the line is; none where it is something else.
+std::size_t EndOfSectionName(std::string_view line)
+{
+    return line.front() == '[' ? line.rfind(']') : std::string_view::npos;
 }
 
 constexpr char LoweredLetter(char letter)
@@ -136,12 +148,15 @@ std::string_view Unquoted(std::string_view value)
     return isQuoted ? value.substr(1, value.size() - 2) : value;
 }
 
-SettingsText::SettingsText(std::string bytes)
-    : m_bytes(std::make_shared<const std::string>(std::move(bytes))), m_state(StateOf(*m_bytes))
+SettingsText::SettingsText(std::string bytes) : m_content(std::make_shared<const Content>(std::move(bytes))) {}
+
+SettingsText::Content::Content(std::string text) : bytes(std::move(text)), state(StateOf(bytes))
 {
-    if (m_state != TextState::Sound)
+    if (state != TextState::Sound)
         return;
-    std::string_view rest = *m_bytes;
+    constexpr std::size_t kUsualLine = 20;
+    lines.reserve(bytes.size() / kUsualLine + 1);
+    std::string_view rest = bytes;
     for (int number = 1; !rest.empty(); ++number) {
         const std::size_t length = EndOfLine(rest);
         const std::string_view line = Trimmed(rest.substr(0, length));
@@ -151,14 +166,14 @@ SettingsText::SettingsText(std::string bytes)
     }
 }
 
-void SettingsText::AddLine(std::string_view line, int number)
+void SettingsText::Content::AddLine(std::string_view line, int number)
 {
-    TextLine entry{.number = number, .section = m_section, .key = line, .value = {}};
-    if (const std::size_t end = line.rfind(']'); line.front() == '[' && end != std::string_view::npos) {
+    TextLine entry{.number = number, .section = section, .key = line, .value = {}};
+    if (const std::size_t end = EndOfSectionName(line); end != std::string_view::npos) {
         entry.kind = TextLine::Kind::Section;
-        entry.section = m_section = Trimmed(line.substr(1, end - 1));
-        m_isRepeated = !m_entries.emplace(SectionName(m_section), m_lines.size()).second;
-        m_lines.push_back(entry);
+        entry.section = section = Trimmed(line.substr(1, end - 1));
+        isRepeated = !entries.emplace(SectionName(section), lines.size()).second;
+        lines.push_back(entry);
         return;
     }
     const std::size_t equals = line.find('=');
@@ -169,9 +184,9 @@ void SettingsText::AddLine(std::string_view line, int number)
         entry.key = Trimmed(line.substr(0, equals));
         entry.value = Trimmed(line.substr(equals + 1));
     }
-    if (!m_isRepeated)
-        m_entries.emplace(EntryName{m_section, entry.key}, m_lines.size());
-    m_lines.push_back(entry);
+    if (!isRepeated)
+        entries.emplace(EntryName{section, entry.key}, lines.size());
+    lines.push_back(entry);
 }
 
 const TextLine* SettingsText::Find(std::string_view section, std::string_view key) const
@@ -182,13 +197,13 @@ const TextLine* SettingsText::Find(std::string_view section, std::string_view ke
 
 const TextLine* SettingsText::FindNamed(std::string_view section, std::string_view key) const
 {
-    const auto found = m_entries.find({section, key});
-    return found == m_entries.end() ? nullptr : &m_lines[found->second];
+    const auto found = m_content->entries.find({section, key});
+    return found == m_content->entries.end() ? nullptr : &m_content->lines[found->second];
 }
 
 bool SettingsText::HasSection(std::string_view section) const
 {
-    return m_entries.contains(SectionName(section));
+    return m_content->entries.contains(SectionName(section));
 }
 
 SettingsText SettingsText::Edited(const LineEdits& edits) const
@@ -200,7 +215,7 @@ SettingsText SettingsText::Edited(const LineEdits& edits) const
             edited += kEnd;
         edited.append(line);
     };
-    std::string_view rest = *m_bytes;
+    std::string_view rest = Bytes();
     for (int number = 1; !rest.empty(); ++number) {
         const std::string_view line = rest.substr(0, EndOfLine(rest));
         rest.remove_prefix(line.size());
@@ -218,22 +233,36 @@ SettingsText SettingsText::Edited(const LineEdits& edits) const
     return SettingsText(std::move(edited));
 }
 
+int StoredWhole(std::string_view value, int fallback)
+{
+    value = Unquoted(value);
+    return value.empty() ? fallback : WholeOf(value.substr(0, kLongestWhole));
+}
+
+double StoredReal(std::string_view value, double fallback)
+{
+    double real = fallback;
+    if (number_text::ParseStored(Unquoted(value).substr(0, kLongestReal), real))
+        return real;
+    number_text::FixedBuffer printed;
+    number_text::ParseStored(number_text::Print(printed, fallback, kStoredDecimals), real);
+    return real;
+}
+
 int TextValues::Whole(const char* section, const char* key, int fallback) const
 {
-    const TextLine* const line = m_text.Find(section, key);
-    const std::string_view value = line ? Unquoted(line->value) : std::string_view();
-    return value.empty() ? fallback : WholeOf(value.substr(0, kLongestWhole));
+    return StoredWhole(ValueOf(section, key), fallback);
 }
 
 double TextValues::Real(const char* section, const char* key, double fallback) const
 {
-    double value = fallback;
+    return StoredReal(ValueOf(section, key), fallback);
+}
+
+std::string_view TextValues::ValueOf(const char* section, const char* key) const
+{
     const TextLine* const line = m_text.Find(section, key);
-    if (line && number_text::ParseStored(Unquoted(line->value).substr(0, kLongestReal), value))
-        return value;
-    number_text::FixedBuffer printed;
-    number_text::ParseStored(number_text::Print(printed, fallback, kStoredDecimals), value);
-    return value;
+    return line ? line->value : std::string_view();
 }
 
 } // namespace pelmar::review

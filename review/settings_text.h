@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <map>
 #include <memory>
+#include <memory_resource>
 #include <span>
 #include <string>
 #include <string_view>
@@ -77,27 +78,35 @@ public:
     SettingsText() : SettingsText(std::string()) {}
     explicit SettingsText(std::string bytes);
 
-    TextState State() const { return m_state; }
+    TextState State() const { return m_content->state; }
     /// Empty unless the text is sound.
-    std::span<const TextLine> Lines() const { return m_lines; }
+    std::span<const TextLine> Lines() const { return m_content->lines; }
     /// The line that counts for a key: the first one in the first section of that name. Null where there is none.
     const TextLine* Find(std::string_view section, std::string_view key) const;
     /// The line that a write to the key replaces: also one that is the key alone, without "=". That one hides the key
     /// in the lines after it.
     const TextLine* FindNamed(std::string_view section, std::string_view key) const;
     bool HasSection(std::string_view section) const;
-    const std::string& Bytes() const { return *m_bytes; }
+    const std::string& Bytes() const { return m_content->bytes; }
     SettingsText Edited(const LineEdits& edits) const;
 
 private:
-    void AddLine(std::string_view line, int number);
+    /// Stays as it was read: the lines look into the bytes.
+    struct Content {
+        explicit Content(std::string text);
+        void AddLine(std::string_view line, int number);
 
-    std::shared_ptr<const std::string> m_bytes; ///< the lines look into it
-    TextState m_state;
-    std::vector<TextLine> m_lines;
-    std::string_view m_section;                                          ///< that the next line is of
-    bool m_isRepeated = false;                                           ///< it has been there before
-    std::unordered_map<EntryName, std::size_t, EntryNameHash> m_entries; ///< and the line that counts
+        std::string bytes;
+        TextState state;
+        std::vector<TextLine> lines;
+        std::string_view section; ///< that the next line is of
+        bool isRepeated = false;  ///< it has been there before
+        std::pmr::monotonic_buffer_resource memory;
+        /// And the line that counts. They come one by one and go all at once.
+        std::pmr::unordered_map<EntryName, std::size_t, EntryNameHash> entries{&memory};
+    };
+
+    std::shared_ptr<const Content> m_content;
 };
 
 /// A settings text as the library reads it.
@@ -109,10 +118,18 @@ public:
     double Real(const char* section, const char* key, double fallback) const override;
 
 private:
+    /// Nothing where the key is missing.
+    std::string_view ValueOf(const char* section, const char* key) const;
+
     const SettingsText& m_text;
 };
 
 /// A value as the platform hands it out: without quotes around it.
 std::string_view Unquoted(std::string_view value);
+
+/// The number that a value is read as. Where it is empty, or no real, the fallback; a real fallback goes through text
+/// and single precision, too.
+int StoredWhole(std::string_view value, int fallback);
+double StoredReal(std::string_view value, double fallback);
 
 } // namespace pelmar::review
