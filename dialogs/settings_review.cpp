@@ -19,6 +19,7 @@
 #include "dialogs/review_memory.h"
 #include "dialogs/review_words.h"
 #include "dialogs/settings_review_controls.h"
+#include "frame/display.h"
 #include "frame/module.h"
 #include "pages/page_controls.h"
 #include "resources/resource.h"
@@ -40,10 +41,10 @@ constexpr std::size_t kMostRefusalsTold = 5;
 
 struct ColumnHead {
     UINT text;
-    int width; ///< in pixels, at first; in those of 96 to the inch
+    int width; ///< at first, in pixels of 96 to the inch
 };
 constexpr ColumnHead kHeads[] = {
-    {IDS_REVIEW_OPERATION, 110}, {IDS_REVIEW_OPTION, 210},  {IDS_REVIEW_VALUE, 120},
+    {IDS_REVIEW_OPERATION, 150}, {IDS_REVIEW_OPTION, 210},  {IDS_REVIEW_VALUE, 120},
     {IDS_REVIEW_COMPARED, 120},  {IDS_REVIEW_FINDING, 290},
 };
 static_assert(std::size(kHeads) == review::kColumns);
@@ -501,7 +502,7 @@ private:
         m_list.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP | LVS_EX_DOUBLEBUFFER);
         int index = 0;
         for (const ColumnHead& head : kHeads)
-            m_list.InsertColumn(index++, LoadText(head.text), LVCFMT_LEFT, head.width);
+            m_list.InsertColumn(index++, LoadText(head.text), LVCFMT_LEFT, OnThisDisplay(head.width));
     }
 
     /// The window as it was when it was last closed.

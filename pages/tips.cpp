@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "PelmarDlgs/help.h"
+#include "frame/display.h"
 #include "frame/module.h"
 #include "pages/page_controls.h"
 
@@ -16,8 +17,6 @@ constexpr UINT kLookMilliseconds = 100;
 // In units of dialogs, so that they grow with the font.
 constexpr int kTextWidth = 200;
 constexpr int kMargin = 3;
-
-constexpr int kUsualDotsPerInch = 96; // that the drawings are made for
 
 bool g_areShown = true;
 
@@ -118,11 +117,7 @@ CSize SizeOfDrawing(HBITMAP drawing)
     BITMAP facts{};
     if (!drawing || !GetObject(drawing, sizeof facts, &facts))
         return {};
-    const HDC screen = ::GetDC(nullptr);
-    const int dotsPerInch = GetDeviceCaps(screen, LOGPIXELSX);
-    ::ReleaseDC(nullptr, screen);
-    return {MulDiv(facts.bmWidth, dotsPerInch, kUsualDotsPerInch),
-            MulDiv(facts.bmHeight, dotsPerInch, kUsualDotsPerInch)};
+    return {OnThisDisplay(facts.bmWidth), OnThisDisplay(facts.bmHeight)};
 }
 
 void Draw(HDC context, HBITMAP drawing, const CRect& area)

@@ -77,6 +77,9 @@ public:
     /// Nothing: as a missing file.
     SettingsText() : SettingsText(std::string()) {}
     explicit SettingsText(std::string bytes);
+    // Copies share the content. What has been moved from keeps it: nothing else may be asked of a text without one.
+    SettingsText(const SettingsText&) = default;
+    SettingsText& operator=(const SettingsText&) = default;
 
     TextState State() const { return m_content->state; }
     /// Empty unless the text is sound.

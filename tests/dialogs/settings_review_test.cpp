@@ -953,6 +953,25 @@ TEST_F(SettingsReview, ItsLayoutClipsAndOverlapsNothing)
     EXPECT_EQ(std::vector<std::string>{}, LayoutFaults(review.window));
 }
 
+/// On a scaled display too.
+TEST_F(SettingsReview, ItsLayoutHasRoomForOperationsAndForMostNames)
+{
+    const OpenReview review(dialog);
+    const auto fits = [&](int row, int column) {
+        constexpr int kBeside = 6; // that the list leaves free on both sides
+        const int needed = ListView_GetStringWidth(review.list, review.Cell(row, column).c_str()) + 2 * kBeside;
+        return needed <= ListView_GetColumnWidth(review.list, column);
+    };
+    int names = 0;
+    const int count = ListView_GetItemCount(review.list);
+    for (int row = 0; row < count; ++row) {
+        EXPECT_TRUE(fits(row, Operation))
+            << row << ": " << ListView_GetStringWidth(review.list, review.Cell(row, Operation).c_str());
+        names += fits(row, Option) ? 1 : 0;
+    }
+    EXPECT_GT(names, count * 2 / 3);
+}
+
 TEST_F(SettingsReview, TheTabKeyGoesThroughTheControlsAsOneReads)
 {
     OpenReview review(dialog);

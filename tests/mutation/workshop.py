@@ -6,6 +6,7 @@ import re
 import shutil
 import signal
 import subprocess
+import tempfile
 import time
 
 WINDOWS_TARGETS = ["PelmarDlgs", "saving_tests"]
@@ -20,15 +21,19 @@ class Failed(Exception):
 
 
 def run(command, longest, **options):
-    """The status of a command, None where it had to be stopped, and what it printed."""
-    with subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, start_new_session=True,
-                          **options) as process:
-        try:
-            output, _ = process.communicate(timeout=longest)
-            return process.returncode, output.decode(errors="replace")
-        except subprocess.TimeoutExpired:
-            os.killpg(process.pid, signal.SIGKILL)
-            return None, process.communicate()[0].decode(errors="replace")
+    """The status of a command, None where it had to be stopped, and what it printed: into a file, as what it leaves
+    running in the background would hold a pipe open."""
+    with tempfile.TemporaryFile() as output:
+        with subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
+                              start_new_session=True, **options) as process:
+            try:
+                status = process.wait(longest)
+            except subprocess.TimeoutExpired:
+                os.killpg(process.pid, signal.SIGKILL)
+                process.wait()
+                status = None
+        output.seek(0)
+        return status, output.read().decode(errors="replace")
 
 
 class Workshop:
