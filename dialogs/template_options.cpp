@@ -172,7 +172,7 @@ public:
         return exists ? sortingStrings[static_cast<size_t>(index)] : CString();
     }
 
-    int GetSortingType(CString text) const
+    int GetSortingType(const CString& text) const
     {
         const auto found = std::ranges::find(sortingStrings, text);
         return found == sortingStrings.end() ? 0 : static_cast<int>(found - sortingStrings.begin());
@@ -360,6 +360,7 @@ CString CTemplateOptions::GetSortingString(int index) const
     return m_state->GetSortingString(index);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): hosts link to this name.
 int CTemplateOptions::GetSortingType(CString text) const
 {
     return m_state->GetSortingType(text);

@@ -54,11 +54,12 @@ bool SettingsJournal::Commit()
         const bool hasFailed = saved.failure != SaveFailure::None;
         if (outcome.failure == SaveFailure::None)
             outcome = saved;
-        const auto others =
-            std::ranges::stable_partition(m_entries, [&](const Entry& entry) { return IsSameName(entry.file, file); });
+        // What the partition of std::ranges answers not every clang-tidy can read.
+        const auto others = std::stable_partition(m_entries.begin(), m_entries.end(),
+                                                  [&](const Entry& entry) { return IsSameName(entry.file, file); });
         if (hasFailed)
-            unsaved.insert(unsaved.end(), m_entries.begin(), others.begin());
-        m_entries.erase(m_entries.begin(), others.begin());
+            unsaved.insert(unsaved.end(), m_entries.begin(), others);
+        m_entries.erase(m_entries.begin(), others);
     }
     m_last = outcome;
     m_entries = std::move(unsaved);

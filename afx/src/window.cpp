@@ -619,7 +619,7 @@ HWND HandleOf(const CWnd* window)
 
 AFX_OF_NULL_TOO HWND CWnd::GetSafeHwnd() const
 {
-    return this ? m_hWnd : nullptr;
+    return this ? m_hWnd : nullptr; // NOLINT(clang-diagnostic-undefined-bool-conversion): see above
 }
 
 CWnd* CWnd::GetTopLevelParent() const
