@@ -13,22 +13,23 @@ class CDataExchange;
 class CMenu;
 class CWnd;
 
+// Bases that are made by name: what braces alone put into them the analyzer of clang-tidy takes for garbage.
 struct CSize : SIZE {
-    CSize(int width = 0, int height = 0) : SIZE{width, height} {}
+    CSize(int width = 0, int height = 0) : SIZE(SIZE{width, height}) {}
     CSize(SIZE size) : SIZE(size) {}
     BOOL operator==(SIZE other) const { return cx == other.cx && cy == other.cy; }
 };
 
 struct CPoint : POINT {
-    CPoint(int px = 0, int py = 0) : POINT{px, py} {}
+    CPoint(int px = 0, int py = 0) : POINT(POINT{px, py}) {}
     CPoint(POINT point) : POINT(point) {}
     BOOL operator==(POINT other) const { return x == other.x && y == other.y; }
 };
 
 struct CRect : RECT {
-    CRect(int l = 0, int t = 0, int r = 0, int b = 0) : RECT{l, t, r, b} {}
+    CRect(int l = 0, int t = 0, int r = 0, int b = 0) : RECT(RECT{l, t, r, b}) {}
     CRect(const RECT& rect) : RECT(rect) {}
-    CRect(POINT topLeft, SIZE size) : RECT{topLeft.x, topLeft.y, topLeft.x + size.cx, topLeft.y + size.cy} {}
+    CRect(POINT topLeft, SIZE size) : RECT(RECT{topLeft.x, topLeft.y, topLeft.x + size.cx, topLeft.y + size.cy}) {}
     int Width() const { return right - left; }
     int Height() const { return bottom - top; }
     CSize Size() const { return {Width(), Height()}; }
