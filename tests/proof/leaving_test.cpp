@@ -229,6 +229,23 @@ TEST_P(LeavingAPage, AsksNothingOnTheWayToDefaultsWhichReplaceTheText)
     EXPECT_EQ(shown, ui::TextOf(edit));
 }
 
+/// A sheet may give its pages up before it hides them, and go on moving the focus.
+TEST_P(LeavingAPage, AsksAndTakesNothingOnceTheSheetHasGivenItUp)
+{
+    const auto page = Make();
+    OpenSheet sheet({page.get()});
+    const std::string before = Saved();
+    const std::vector<HWND> edits = ExpressionEdits(sheet.Page());
+    TypeInto(edits.at(0), L"abc");
+    NMHDR givenUp{sheet.window, 0, static_cast<UINT>(PSN_RESET)};
+    SendMessage(sheet.Page(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&givenUp));
+    GoTo(edits.at(1));
+    EXPECT_TRUE(IsOpenAndSilent(sheet.window));
+    EXPECT_EQ(before, Saved());
+    sheet.Press(IDCANCEL);
+    EXPECT_TRUE(ClosesWithoutAWord(sheet.window));
+}
+
 /// A host's sheet with a button that restores the defaults of the page in front.
 class CHostSheet : public CPropertySheetTVEx {
 public:
