@@ -1,5 +1,7 @@
 #include "review/values.h"
 
+#include <ostream>
+
 #include <gtest/gtest.h>
 
 #include "PelmarDlgs/settings_values.h"
@@ -132,6 +134,80 @@ TEST(Settings, EveryOneIsFoundByItsNameAndByNoOther)
             EXPECT_EQ(SettingOf(*setting.option), &setting);
         }
     }
+}
+
+struct NameAndValue {
+    std::string name;
+    double builtIn;
+
+    friend bool operator==(const NameAndValue&, const NameAndValue&) = default;
+    friend void PrintTo(const NameAndValue& setting, std::ostream* out)
+    {
+        *out << setting.name << "=" << setting.builtIn;
+    }
+};
+
+/// What dialogs and host keep in the files, as it stands there.
+const std::vector<NameAndValue> kOfNoRecord = {
+    {"Settings.Decimals", 4},
+    {"Settings.MillGaugeLength", 0},
+    {"Settings.LatheGaugeLength", 0},
+    {"Settings.ToolSortBy", 0},
+    {"Settings.ProgramName", 0},
+    {"Settings.UsePLXDialogs", 0},
+    {"DefaultNCParameter.FilterSpans", 0},
+    {"DefaultNCParameter.FilterMaxSpan", 0.001},
+    {"DefaultNCParameter.FilterLineTol", 0.001},
+    {"DefaultNCParameter.FilterArcTol", 0.001},
+    {"ALLTIPI.DefToLastMaterial;", 0},
+    {"ALLTIPI.DefToLastTool", 0},
+    {"ALLTIPI.DefToLastCutCtrl", 0},
+    {"MILLTIPI.ToolDefUS", 44},
+    {"MILLTIPI.ToolDefMM", 2139},
+    {"DRILLTIPI.ToolDefUS", 3},
+    {"DRILLTIPI.ToolDefMM", 2203},
+    {"LATHETIPI.ToolDefUS", 1},
+    {"LATHETIPI.ToolDefMM", 1},
+    {"LDRILLTIPI.ToolDefUS", 74},
+    {"LDRILLTIPI.ToolDefMM", 142},
+    {"DGTZTIPI.ToolDefUS", 1},
+    {"DGTZTIPI.ToolDefMM", 1},
+    {"EDMTIPI.ToolDefUS", 10},
+    {"EDMTIPI.ToolDefMM", 38},
+    {"THREADTIPI.ToolDefUS", 113},
+    {"THREADTIPI.ToolDefMM", 113},
+    {"FACEMILLTIPI.ToolDefUS", 1007},
+    {"FACEMILLTIPI.ToolDefMM", 2167},
+    {"ROUNDMILLTIPI.ToolDefUS", 335},
+    {"ROUNDMILLTIPI.ToolDefMM", 2345},
+    {"CHAMFERMILLTIPI.ToolDefUS", 1100},
+    {"CHAMFERMILLTIPI.ToolDefMM", 2161},
+    {"THREADMILLTIPI.ToolDefUS", 1},
+    {"THREADMILLTIPI.ToolDefMM", 1},
+    {"HoleProcessLocation.StartupTemplate", 0},
+    {"HoleProcess.Units", 0},
+    {"DefaultPath.TorvexIniPath", 0},
+    {"DefaultPath.NCDefaultPath", 0},
+    {"DefaultPath.MachSimPath", 0},
+    {"DefaultPath.ToolpathTemplatesPath", 0},
+    {"DefaultSystemFile.ToolLib", 0},
+    {"DefaultNCParameter.NCDefaultStartup", 0},
+    {"DefaultNCParameter.StockMaterial", 0},
+    {"DefaultNCParameter.OnlyBallTools", 0},
+    {"DefaultNCParameter.Classic3Axis", 0},
+    {"DefaultDisplayParameter.NcDisplayMode", 0},
+    {"DefaultDisplayParameter.NcMenuIcons", 0},
+    {"Settings.Units", 0},
+};
+
+TEST(Settings, OfNoRecordAreThoseThatDialogsAndHostKeep)
+{
+    std::vector<NameAndValue> found;
+    const Values builtIn;
+    for (const Setting& setting : AllSettings())
+        if (setting.global)
+            found.push_back({setting.Name(), builtIn.Number(setting)});
+    EXPECT_EQ(found, kOfNoRecord);
 }
 
 TEST(Settings, AnOperationIsFoundByItsNameAndBySection)
