@@ -74,7 +74,7 @@ std::optional<std::string> ChooseTemplateFile(const std::wstring& operation, con
     const std::wstring path = Ask(operation, initial);
     if (path.empty())
         return {};
-    const std::optional<std::string> narrow = InCodePage(path, capacity);
+    std::optional<std::string> narrow = InCodePage(path, capacity);
     if (!narrow)
         MessageBoxW(GetActiveWindow(), LoadText(IDS_PATH_NOT_EXPRESSIBLE).c_str(), Title(operation).c_str(),
                     MB_OK | MB_ICONEXCLAMATION);

@@ -35,6 +35,7 @@ const std::vector<const char*>& SortOptionTexts()
     }();
     static const std::vector<const char*> pointers = [] {
         std::vector<const char*> all;
+        all.reserve(texts.size());
         for (const std::string& text : texts)
             all.push_back(text.c_str());
         return all;
