@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cwchar>
 #include <string>
 #include <vector>
 
@@ -751,6 +752,25 @@ TEST_F(SettingsReview, AFolderInTheFilesPlaceIsTold)
         EXPECT_EQ(L"Это папка, а не файл параметров.", review.Cell(0, Finding));
     }
     RemoveDirectoryA(host.settings.c_str());
+}
+
+TEST_F(SettingsReview, AFileThatAnotherProgramKeepsToItselfIsToldWithTheSystemsReason)
+{
+    host.WriteSettings(k2AxisHead);
+    const HANDLE kept = CreateFileA(host.settings.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(INVALID_HANDLE_VALUE, kept);
+    {
+        OpenReview review(dialog);
+        review.Show(Faulty);
+        ASSERT_EQ(1, review.Count());
+        wchar_t reason[512] = L"";
+        FormatMessage(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, ERROR_SHARING_VIOLATION, 0,
+                      reason, 512, nullptr);
+        const std::wstring told = review.Cell(0, Finding);
+        EXPECT_EQ(std::wstring(L"Файл не читается. ") + std::wstring(reason).substr(0, std::wcscspn(reason, L"\r\n")),
+                  told);
+    }
+    CloseHandle(kept);
 }
 
 TEST_F(SettingsReview, AFileOf100MegabytesIsNotReadAndToldWithItsSize)
