@@ -47,6 +47,12 @@ CRect RectIn(const CWnd& parent, HWND control)
     return rect;
 }
 
+/// Afterwards there may be no page in front any more.
+bool MayClose(UINT message)
+{
+    return message == WM_COMMAND || message == WM_SYSCOMMAND || message == WM_CLOSE || message == PSM_PRESSBUTTON;
+}
+
 } // namespace
 
 COptionsSheet::COptionsSheet(CWnd* parent, int units, Use use, SettingPlace place)
@@ -107,14 +113,6 @@ bool COptionsSheet::SaveRecords()
     return m_save.Save(IDS_WHAT_OPTIONS, SaveAll);
 }
 
-/// Asked after each message, as long as there is a page in front.
-BOOL COptionsSheet::ContinueModal()
-{
-    if (GetActivePage())
-        m_lastPage = GetActiveIndex();
-    return CPropertySheetTVEx::ContinueModal();
-}
-
 INT_PTR COptionsSheet::DoModal()
 {
     const INT_PTR result = CPropertySheetTVEx::DoModal();
@@ -129,6 +127,8 @@ INT_PTR COptionsSheet::DoModal()
 
 LRESULT COptionsSheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (MayClose(message) && GetActivePage())
+        m_lastPage = GetActiveIndex();
     const bool isCommand = message == WM_COMMAND && m_use == Use::Edit;
     // Before the sheet closes: it cannot be kept open afterwards.
     if (isCommand && LOWORD(wParam) == IDOK) {

@@ -25,7 +25,6 @@ public:
     COptionsSheet(CWnd* parent, int units, Use use, pelmar::SettingPlace place = {});
 
     INT_PTR DoModal() override;
-    BOOL ContinueModal() override;
     BOOL OnInitDialog() override;
 
 protected:
@@ -42,7 +41,7 @@ private:
     pelmar::SettingPlace m_place;
     PendingSave m_save;
     bool m_isSaved = false; ///< by the OK that is under way
-    int m_lastPage = -1;    ///< place of the page that is or was in front
+    int m_lastPage = -1;    ///< place of the page that was in front when the sheet was last to close
     std::vector<std::unique_ptr<CPropertyPage>> m_ownPages;
     std::list<CString> m_tabs; ///< the pages point at these texts
     CButton m_defaults;
