@@ -52,12 +52,11 @@ class SavingHost {
 public:
     SavingHost(const std::string& what, const std::string& rounds)
     {
-        STARTUPINFOA startup{};
-        startup.cb = sizeof startup;
-        std::string command =
+        const std::string command =
             ProgramFolder() + "saving_host.exe " + what + " " + m_ready.Text() + " " + m_go.Text() + " " + rounds;
-        if (!CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &m_process))
-            ADD_FAILURE() << command;
+        // Among hundreds of processes that come and are killed, once in a while one does not start at first.
+        if (!ui::WaitUntil([&] { return Start(command); }))
+            ADD_FAILURE() << command << ": error " << GetLastError();
     }
     ~SavingHost()
     {
@@ -84,6 +83,14 @@ public:
     }
 
 private:
+    bool Start(std::string command)
+    {
+        STARTUPINFOA startup{};
+        startup.cb = sizeof startup;
+        return CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
+                              &m_process) != FALSE;
+    }
+
     Event m_ready;
     Event m_go;
     PROCESS_INFORMATION m_process{};
