@@ -73,6 +73,20 @@ TEST_F(TorvexWindow, TheSheetOpensOnThePageLastUsedAfterOkAndCancelAndOverRuns)
     EXPECT_EQ(0u, Close());
 }
 
+/// Another program may do both, and the sheet's own loop comes to no message between.
+TEST_F(TorvexWindow, ThePageIsKeptWhereCancelFollowsTheTurnAtOnce)
+{
+    Start();
+    OpenOptions();
+    SendNotifyMessage(m_sheet, PSM_SETCURSELID, 0, IDD_4X);
+    SendNotifyMessage(m_sheet, WM_COMMAND, IDCANCEL, 0);
+    ASSERT_TRUE(ui::WaitForClose(m_sheet));
+    OpenOptions();
+    EXPECT_TRUE(IsInFront(IDC_MX_ROTARY_OPTIONS));
+    CloseOptions(IDCANCEL);
+    EXPECT_EQ(0u, Close());
+}
+
 TEST_F(TorvexWindow, WhoNeverTurnsAPageLeavesNoneBehind)
 {
     Start();
