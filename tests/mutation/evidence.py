@@ -13,7 +13,8 @@ class Stage:
     environment: tuple = ()
 
     def name(self):
-        return self.program + ("" if self.filter == "*" else " " + self.filter)
+        where = " natively" if self.native else ""
+        return self.program + where + ("" if self.filter == "*" else " " + self.filter)
 
 
 def module(filter):
