@@ -109,6 +109,7 @@ int main()
 {
     const std::vector<std::string> random = WithRandomDigits(200);
     std::vector<const char*> inAnyOrder;
+    inAnyOrder.reserve(random.size());
     for (const std::string& text : random)
         inAnyOrder.push_back(text.c_str());
 

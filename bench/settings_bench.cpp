@@ -91,6 +91,7 @@ bool Compare(const Aim& aim, const HostFolder& host, int rounds, Save save, Rest
     std::vector<Entry> oneOther = entries;
     oneOther[entries.size() / 2] = WithAnotherValue(entries[entries.size() / 2]);
     std::vector<Entry> allOther;
+    allOther.reserve(entries.size());
     for (const Entry& entry : entries)
         allOther.push_back(WithAnotherValue(entry));
 

@@ -44,7 +44,7 @@ CObject* AfxDynamicDownCast(CRuntimeClass* runtimeClass, CObject* object)
     return object && object->IsKindOf(runtimeClass) ? object : nullptr;
 }
 
-CObject* AfxStaticDownCast(CRuntimeClass* runtimeClass, CObject* object)
+CObject* AfxStaticDownCast([[maybe_unused]] CRuntimeClass* runtimeClass, CObject* object)
 {
     ASSERT(!object || object->IsKindOf(runtimeClass));
     return object;

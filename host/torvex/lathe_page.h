@@ -8,6 +8,6 @@
 class CLathePage : public CDefsLathePage {
     DECLARE_DYNAMIC(CLathePage)
 public:
-    void GetData(int units);
+    void GetData(int units) override;
     void OnOK() override;
 };

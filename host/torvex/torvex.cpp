@@ -53,7 +53,7 @@ CTorvexApp g_application;
 
 } // namespace
 
-int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR, int show)
+int WINAPI WinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR, int nShowCmd)
 {
-    return AfxWinMain(instance, previous, GetCommandLine(), show);
+    return AfxWinMain(hInstance, hPrevInstance, GetCommandLine(), nShowCmd);
 }

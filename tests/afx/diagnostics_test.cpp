@@ -5,7 +5,7 @@
 // As a host's debug build does; the other half of the tests is in release_diagnostics_test.cpp.
 #define _DEBUG 1
 #include <afxext.h>
-#define new DEBUG_NEW
+#define new DEBUG_NEW // NOLINT(clang-diagnostic-keyword-macro)
 
 #include "modal.h"
 

@@ -1,6 +1,6 @@
 #include "dialogs/pelmar_stub.h"
 
-#include <cstring>
+#include <algorithm>
 
 #define ENTRY_POINT extern "C" __declspec(dllexport)
 
@@ -68,7 +68,7 @@ ENTRY_POINT int SetTemplateDefaults(TemplateDefaults* record)
 ENTRY_POINT int SelectTemplateFile(std::int32_t operation, char* path)
 {
     g_script.selectCalls.push_back(operation);
-    std::memcpy(path, g_script.chosenFile.data(), g_script.chosenFile.size());
+    std::ranges::copy(g_script.chosenFile, path); // the test says whether a text ends
     return End(g_script.chosen);
 }
 #endif

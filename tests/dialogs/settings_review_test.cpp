@@ -9,6 +9,7 @@
 
 #include "dialogs/dialog_driver.h"
 #include "pages/page_driver.h"
+#include "ui/bytes.h"
 #include "ui/file_dialog.h"
 
 namespace {
@@ -826,7 +827,7 @@ TEST_F(SettingsReview, CancelAfterEverythingLeavesRecordsAndFileAsTheyWere)
     review.Select(k2Axis, kAngle);
     review.BeginEdit(L"110");
     review.End(IDCANCEL);
-    EXPECT_EQ(0, std::memcmp(&before, GetLast2xOptions(), sizeof before));
+    EXPECT_EQ(ui::BytesOf(before), ui::BytesOf(*GetLast2xOptions()));
     EXPECT_EQ(bytes, host.ReadSettings());
 }
 
@@ -839,7 +840,7 @@ TEST_F(SettingsReview, OkChangesWhatWasEditedAndNothingElse)
     review.Select(k2Axis, kAngle);
     review.Enter(L"75");
     review.End(IDOK);
-    EXPECT_EQ(0, std::memcmp(&expected, GetLast2xOptions(), sizeof expected));
+    EXPECT_EQ(ui::BytesOf(expected), ui::BytesOf(*GetLast2xOptions()));
     ui::UiThread::Get().Call([] { GetLast2xOptions()->vOptions_Save(); });
     EXPECT_EQ("75.000000", ::Value(host.settings, "Options2x", "CornerAngle"));
     EXPECT_EQ("1.123456", ::Value(host.settings, "Options2x", "RapidPlane"));

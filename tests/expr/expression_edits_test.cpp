@@ -656,7 +656,7 @@ TEST_F(ExpressionEdits, ShowBoundsOfAnySize)
     ui::Click(m_window, IDOK);
     ui::Answer(ui::WaitForBox(), IDOK);
     ASSERT_EQ(1U, m_app.m_shown.size());
-    EXPECT_EQ(std::wstring(L"Please enter a number between  and .").size() + 2 * (309 + 1 + 50),
+    EXPECT_EQ(std::wstring(L"Please enter a number between  and .").size() + size_t{2} * (309 + 1 + 50),
               m_app.m_shown[0].text.size());
 }
 

@@ -538,7 +538,7 @@ protected:
     ClosedFolder()
     {
         folder.Write(kOld);
-        calls.fails = [this](const Call& call) {
+        calls.fails = [](const Call& call) {
             const bool isNew = call.IsOn("CURRENT.INI.") && call.name == "CreateFile";
             return isNew ? DWORD{ERROR_ACCESS_DENIED} : 0;
         };

@@ -23,7 +23,7 @@ const char* Terminated(std::string_view text)
 
 template <class Result> bool AreSameBits(Result left, Result right)
 {
-    return std::memcmp(&left, &right, sizeof left) == 0;
+    return std::memcmp(&left, &right, sizeof left) == 0; // NOLINT(bugprone-suspicious-memory-comparison)
 }
 
 /// Both have to answer the same and leave the same result, bit for bit.

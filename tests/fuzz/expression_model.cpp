@@ -266,10 +266,8 @@ std::optional<size_t> LengthOfExpression(const Items& items)
             needsOperand = true;
         } else if (mark == ')' && nesting > 0) {
             --nesting;
-        } else if (nesting > 0) {
-            return std::nullopt;
         } else {
-            return index;
+            return nesting > 0 ? std::nullopt : std::optional(index);
         }
     }
 }

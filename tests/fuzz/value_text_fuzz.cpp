@@ -29,6 +29,7 @@ constexpr int kStoredDecimals = 6;
 /// The sign of a zero says nothing: what is too small for the type is 0, with its own sign or without.
 template <class Real> bool AreSame(Real left, Real right)
 {
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): bit for bit
     return (left == 0 && right == 0) || std::memcmp(&left, &right, sizeof left) == 0;
 }
 

@@ -834,7 +834,7 @@ TEST_F(LatheAxes, EveryDirectionFitsItsLine)
     }
     SendMessage(sheet.Page(), 3073, 0, 0);
     const std::string line = Line("LatheView");
-    EXPECT_EQ(std::string("1 2 3 0").size() + 9 * (1 + 1 + 309 + 1 + 6), line.size());
+    EXPECT_EQ(std::string("1 2 3 0").size() + size_t{9} * (1 + 1 + 309 + 1 + 6), line.size());
     EXPECT_EQ(" -1797693134862315708145274237317043", line.substr(7, 36));
     EXPECT_EQ("3 4 5 0 nan -inf -1797693", Line("LatheViewDia").substr(0, 25));
 }

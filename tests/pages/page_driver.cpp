@@ -162,7 +162,8 @@ int NeededWidth(HWND control, const RECT& rect, const TextMeasure& measure)
     for (size_t index = 0; index < count; ++index) {
         std::wstring item(static_cast<size_t>(SendMessage(control, CB_GETLBTEXTLEN, index, 0)) + 1, L'\0');
         SendMessage(control, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(item.data()));
-        needed = std::max<int>(needed, measure.Of(item.c_str()).cx + GetSystemMetrics(SM_CXVSCROLL) + 8);
+        item.pop_back();
+        needed = std::max<int>(needed, measure.Of(item).cx + GetSystemMetrics(SM_CXVSCROLL) + 8);
     }
     return needed;
 }

@@ -521,7 +521,9 @@ TYPED_TEST_SUITE_P(PageOfLengths);
 TYPED_TEST_P(PageOfLengths, ShowsMillimetresAndDefaultsInThem)
 {
     const auto& length = TypeParam::length;
-    const std::string type = length.typeKey ? std::string(length.typeKey) + "=0\r\n" : "";
+    std::string type;
+    if (length.typeKey)
+        type.append(length.typeKey).append("=0\r\n");
     this->host.WriteDefaults(HeaderOf(TypeParam::operations.fresh) + length.key + "=0.5\r\n" + type);
     typename TypeParam::Record record;
     record.*length.field = 1.0;

@@ -12,6 +12,7 @@
 #include "pages/page_driver.h"
 #include "resources/resource.h"
 #include "settings_text.h"
+#include "ui/bytes.h"
 
 namespace {
 
@@ -148,7 +149,7 @@ TEST(UntouchedRotaryDialog, KeepsTheAxisInFull)
     ASSERT_TRUE(ui::WaitForClose(dialog));
     sheet.Ok();
     page.SetData(axis);
-    EXPECT_EQ(0, std::memcmp(given, axis, sizeof axis));
+    EXPECT_EQ(ui::BytesOf(given), ui::BytesOf(axis));
 }
 
 TEST(UntouchedLatheAxes, KeepTheDirectionsInFull)
@@ -181,7 +182,7 @@ TEST(UntouchedLatheAxes, KeepTheDirectionsInFull)
     LatheAxisDirections now[kLatheAxisModes] = {};
     page.SetData(labels, activeNow, now);
     for (int mode = 0; mode < kLatheAxisModes; ++mode)
-        EXPECT_EQ(0, std::memcmp(directions[mode], now[mode], 3 * sizeof now[mode][0])) << mode;
+        EXPECT_EQ(ui::BytesOf(directions[mode]), ui::BytesOf(now[mode])) << mode;
 }
 
 TEST(UntouchedSetupSheet, KeepsEveryByteOfItsValues)

@@ -67,7 +67,7 @@ bool CommitSave()
 void DropSave() {}
 
 SettingsReading::SettingsReading() = default;
-SettingsReading::~SettingsReading() = default;
+SettingsReading::~SettingsReading() {} // not defaulted: the library's own does something
 
 bool WriteWhole(const char* section, const char* key, int value)
 {

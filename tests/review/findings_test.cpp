@@ -118,6 +118,14 @@ TEST(Findings, AValueOutOfRangeTellsTheRange)
     EXPECT_TRUE(FoundBesidesMissing("[Options2x]\nCornerAngle=150.000000\n").empty());
 }
 
+TEST(Findings, NoToleranceMayBeBelowZero)
+{
+    for (const char* const key : {"FilterMaxSpan", "FilterLineTol", "FilterArcTol"}) {
+        const Finding finding = TheOne("[DefaultNCParameter]\n" + std::string(key) + "=-0.1\n");
+        EXPECT_EQ(finding.kind, FindingKind::OutOfRange) << key;
+    }
+}
+
 TEST(Findings, ANumberThatNoTypeHoldsIsOutOfRange)
 {
     EXPECT_EQ(TheOne("[Options2x]\nSideRoughStep=1e39\n").kind, FindingKind::OutOfRange);

@@ -76,8 +76,8 @@ CListeningApp g_application;
 
 } // namespace
 
-int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR, int show)
+int WINAPI WinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR, int nShowCmd)
 {
-    AfxWinMain(instance, previous, GetCommandLine(), show);
+    AfxWinMain(hInstance, hPrevInstance, GetCommandLine(), nShowCmd);
     return g_result;
 }

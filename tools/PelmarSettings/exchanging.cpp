@@ -205,8 +205,9 @@ private:
             return;
         }
         const Json& value = stated.value();
-        if (value == 0 || value == 1)
-            m_values.Convert(*units->record, value.get<int>());
+        for (const int known : {0, 1})
+            if (value == known)
+                m_values.Convert(*units->record, known);
     }
 
     void TakeValue(const std::string& path, const std::string& section, const std::string& key, const Json& value)

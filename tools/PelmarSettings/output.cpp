@@ -56,7 +56,7 @@ void Output::SetColor(ColorMode mode)
 
 std::string Output::Painted(Style style, std::string_view text) const
 {
-    const std::string shown = WithoutControls(text);
+    std::string shown = WithoutControls(text);
     if (!m_isColored || style == Style::Plain || shown.empty())
         return shown;
     return std::string(CodeOf(style)) + shown + "\x1b[0m";

@@ -15,7 +15,7 @@ using review::Values;
 std::string NameOf(const Finding& finding)
 {
     const std::string section = Utf8OfNarrow(finding.section);
-    const std::string key = Utf8OfNarrow(finding.key);
+    std::string key = Utf8OfNarrow(finding.key);
     if (section.empty())
         return key;
     return key.empty() ? "[" + section + "]" : section + "." + key;
