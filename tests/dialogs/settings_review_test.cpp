@@ -310,6 +310,20 @@ TEST_F(SettingsReview, EnterInTheSearchGoesToWhatWasFound)
     EXPECT_EQ(1u, ListView_GetSelectedCount(review.list));
 }
 
+TEST_F(SettingsReview, ALetterTypedInTheListGoesToTheNextOperationThatBeginsWithIt)
+{
+    OpenReview review(dialog);
+    const std::vector<std::wstring> operations = review.Cells(Operation);
+    const wchar_t first = operations.at(0).at(0);
+    const auto other = std::ranges::find_if(operations, [&](const std::wstring& name) { return name.at(0) != first; });
+    ASSERT_NE(operations.end(), other);
+    review.Select(0);
+    ui::TypeAt(review.list, other->substr(0, 1));
+    EXPECT_EQ(other - operations.begin(), ListView_GetNextItem(review.list, -1, LVNI_FOCUSED));
+    ui::TypeAt(review.list, L"Q");
+    EXPECT_EQ(other - operations.begin(), ListView_GetNextItem(review.list, -1, LVNI_FOCUSED));
+}
+
 TEST_F(SettingsReview, TheFilterLeavesWhatDiffersOrWhatIsWrong)
 {
     Restore("[Options2x]\r\nUnits=0\r\nCornerAngle=75\r\nSortType=9\r\nUnknown=1\r\n");

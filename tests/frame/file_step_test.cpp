@@ -255,6 +255,51 @@ TEST_F(FileStep, CarriesTheAttributesOver)
     EXPECT_EQ(DWORD{FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE}, g_attributesOfCopy);
 }
 
+std::vector<char> g_longList;
+std::vector<char> g_listOfCopy;
+
+/// A descriptor of more bytes than a save expects at first.
+std::vector<char> LongList()
+{
+    std::vector<DWORD> memory(500);
+    auto* const list = reinterpret_cast<ACL*>(memory.data());
+    EXPECT_TRUE(InitializeAcl(list, 2000, ACL_REVISION));
+    SECURITY_DESCRIPTOR descriptor{};
+    EXPECT_TRUE(InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION));
+    EXPECT_TRUE(SetSecurityDescriptorDacl(&descriptor, TRUE, list, FALSE));
+    std::vector<char> bytes(3000);
+    auto size = static_cast<DWORD>(bytes.size());
+    EXPECT_TRUE(MakeSelfRelativeSD(&descriptor, bytes.data(), &size));
+    bytes.resize(GetSecurityDescriptorLength(bytes.data()));
+    return bytes;
+}
+
+TEST_F(FileStep, CarriesALongAccessListOver)
+{
+    folder.Write(kOld);
+    g_longList = LongList();
+    g_listOfCopy.clear();
+    pelmar::Files().fileSecurity = [](const char* path, SECURITY_INFORMATION what, void* list, DWORD size,
+                                      DWORD* needed) -> BOOL {
+        if (Call{"", path}.IsOn(".new"))
+            return GetFileSecurityA(path, what, list, size, needed);
+        *needed = static_cast<DWORD>(g_longList.size());
+        if (size < g_longList.size()) {
+            SetLastError(ERROR_INSUFFICIENT_BUFFER);
+            return FALSE;
+        }
+        std::ranges::copy(g_longList, static_cast<char*>(list));
+        return TRUE;
+    };
+    pelmar::Files().setFileSecurity = [](const char*, SECURITY_INFORMATION, void* list) -> BOOL {
+        const auto* const bytes = static_cast<const char*>(list);
+        g_listOfCopy.assign(bytes, bytes + GetSecurityDescriptorLength(list));
+        return TRUE;
+    };
+    ExpectSaved(Save());
+    EXPECT_EQ(g_longList, g_listOfCopy);
+}
+
 /// The access list as bytes.
 std::vector<char> RightsOf(const std::string& path)
 {
