@@ -910,6 +910,39 @@ TEST_F(SettingsReview, ControlsStayInsideHoweverItIsResized)
     EXPECT_EQ(std::vector<std::string>{}, LayoutFaults(review.window));
 }
 
+/// Where the controls stand in their window, and its own area as the last.
+std::vector<RECT> PlacesIn(HWND window)
+{
+    std::vector<RECT> places;
+    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        places.push_back(AreaOf(child));
+        MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&places.back()), 2);
+    }
+    GetClientRect(window, &places.emplace_back());
+    return places;
+}
+
+TEST_F(SettingsReview, EachEdgeOfAControlStaysOrMovesAsTheWindowsDoes)
+{
+    const OpenReview review(dialog);
+    const HWND labelOfList = GetWindow(review.list, GW_HWNDPREV);
+    EXPECT_EQ(AreaOf(labelOfList).left, AreaOf(review.list).left) << "where its template has it";
+    const std::vector<RECT> before = PlacesIn(review.window);
+    const RECT first = AreaOf(review.window);
+    Resize(review.window, first.right - first.left + 50, first.bottom - first.top + 30);
+    const std::vector<RECT> after = PlacesIn(review.window);
+    ASSERT_EQ(before.size(), after.size());
+    ASSERT_EQ(50, after.back().right - before.back().right);
+    ASSERT_EQ(30, after.back().bottom - before.back().bottom);
+    const auto isMoved = [](LONG by, LONG whole) { return by == 0 || by == whole; };
+    for (size_t index = 0; index < before.size(); ++index) {
+        EXPECT_TRUE(isMoved(after[index].left - before[index].left, 50)) << index;
+        EXPECT_TRUE(isMoved(after[index].right - before[index].right, 50)) << index;
+        EXPECT_TRUE(isMoved(after[index].top - before[index].top, 30)) << index;
+        EXPECT_TRUE(isMoved(after[index].bottom - before[index].bottom, 30)) << index;
+    }
+}
+
 TEST_F(SettingsReview, SizeColumnsOrderAndFilterAreAsTheyWereAtTheEnd)
 {
     {
