@@ -693,6 +693,25 @@ TEST_F(SettingsReview, AFileThatCannotBeComparedIsToldWithTheReason)
     }
 }
 
+TEST_F(SettingsReview, AComparedFileThatIsGoneGivesWayToTheFactoryValues)
+{
+    const std::string other = host.folder + "\\OTHER.INI";
+    WriteFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=75\r\n");
+    OpenReview review(dialog);
+    const std::wstring before = review.Shown(k2Axis, kAngle, Compared);
+    review.PressButton(kPickFile);
+    ui::ChooseFile(ui::WaitForFileDialog(), Wide(other));
+    ASSERT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"75°"; }));
+    ASSERT_TRUE(DeleteFileA(other.c_str()));
+    review.Press(VK_F5);
+    const ui::MessageBoxSeen box = ui::WaitForBox();
+    EXPECT_NE(std::wstring::npos, box.text.find(L"OTHER.INI"));
+    ui::Answer(box, IDOK);
+    ASSERT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == before; }));
+    EXPECT_EQ(L"Заводские значения", ui::TextOf(review.window, kCompared));
+    EXPECT_FALSE(IsWindowEnabled(ui::Control(review.window, kFactory)));
+}
+
 // ---- findings ----
 
 /// A file, and what must be told of it.
