@@ -962,6 +962,23 @@ TEST_F(SettingsReview, EachEdgeOfAControlStaysOrMovesAsTheWindowsDoes)
     }
 }
 
+TEST_F(SettingsReview, TheFindingsTakeTheWidthThatIsLeftUntilTheUserChangesTheirs)
+{
+    {
+        OpenReview review(dialog);
+        int whole = 0;
+        for (const int column : {Operation, Option, Value, Compared, Finding})
+            whole += ListView_GetColumnWidth(review.list, column);
+        RECT client;
+        GetClientRect(review.list, &client); // without the scroll bar
+        EXPECT_EQ(client.right, whole);
+        ListView_SetColumnWidth(review.list, Finding, 91);
+        review.End(IDCANCEL);
+    }
+    const OpenReview review(dialog);
+    EXPECT_EQ(91, ListView_GetColumnWidth(review.list, Finding));
+}
+
 TEST_F(SettingsReview, SizeColumnsOrderAndFilterAreAsTheyWereAtTheEnd)
 {
     {
