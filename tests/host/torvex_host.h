@@ -17,6 +17,7 @@
 #include "host/torvex/resource.h"
 #include "resources/resource.h"
 #include "ui/person.h"
+#include "ui/process.h"
 #include "ui/ui_thread.h"
 
 namespace fs = std::filesystem;
@@ -122,11 +123,8 @@ protected:
     /// Starts the program from another current directory than its own.
     void Launch()
     {
-        STARTUPINFOW startup{};
-        startup.cb = sizeof startup;
-        std::wstring command = (m_folder / L"TORVEX.EXE").wstring();
-        ASSERT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, L"C:\\", &startup,
-                                   &m_process));
+        m_process = ui::StartProcess((m_folder / L"TORVEX.EXE").wstring(), L"C:\\");
+        ASSERT_TRUE(m_process.hProcess);
         CloseHandle(m_process.hThread);
     }
     void Start()

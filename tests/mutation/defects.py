@@ -29,6 +29,8 @@ ROW = re.compile(r"^[ \t]+(?:ON_\w+\(|(?:[A-Z]\w*)(?:<[^\n>]*>)?\([^\n]*|\{[^\n]
 TRAIT = re.compile(r"^[ \t]+\.\w+", re.MULTILINE)
 CALL = re.compile(r"^[ \t]+(?:[A-Za-z_]\w*(?:\.|->|::))*[A-Za-z_]\w*\(", re.MULTILINE)
 ASSIGNMENT = re.compile(r"^[ \t]+[\w.\->\[\]]+ [-+|&]?= [^\n]*;$", re.MULTILINE)
+# Dropping it changes nothing: the base class takes no part in the exchange.
+IDLE_CALL = re.compile(r"CNCDialog::DoDataExchange\b")
 NO_CALLS = {"static_assert", "return", "if", "while", "for", "switch", "sizeof", "assert", "ASSERT", "TRACE"}
 
 # How often each is chosen, however many places there are for it.
@@ -192,7 +194,9 @@ class Source:
             begin = self.first(match)
             name = re.match(r"\w+", self.text[begin:]).group()
             end = self.statement_end(begin)
-            if end and name not in NO_CALLS and self.text[end - 1] == ";" and self.starts_statement(begin):
+            if name in NO_CALLS or IDLE_CALL.match(self.text, begin):
+                continue
+            if end and self.text[end - 1] == ";" and self.starts_statement(begin):
                 self.plant("call", begin, end, ";")
         for match in ASSIGNMENT.finditer(self.text):
             begin = self.first(match)

@@ -43,6 +43,10 @@ class Planting(unittest.TestCase):
         self.assertEqual(planted(text, "call"), [text.replace("Set(text,\n        2);", ";")])
         self.assertEqual(planted(text, "assignment"), [text.replace("m_all = 3;", ";")])
 
+    def test_a_call_that_does_nothing_stays(self):
+        text = "void F()\n{\n    CNCDialog::DoDataExchange(exchange);\n    DDX_Text(exchange, 1);\n}\n"
+        self.assertEqual(planted(text, "call"), [text.replace("DDX_Text(exchange, 1);", ";")])
+
     def test_rows_of_tables_and_of_message_maps_and_what_is_said_of_a_row_are_dropped(self):
         text = ("constexpr Option options[] = {\n    Length<&R::Step>(\"Step\", \"x\")\n        .Within(kNotNegative),\n"
                 "    Units<R>(),\n};\nBEGIN_MESSAGE_MAP(A, B)\n    ON_BN_CLICKED(IDC_A, &A::OnA)\nEND_MESSAGE_MAP()\n")

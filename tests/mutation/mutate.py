@@ -28,7 +28,7 @@ import workshop
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 WORK = ROOT / "build/mutate"
 # What settings can be lost by, and what changes most, is looked at more closely.
-FOLDERS = {"frame": 2, "dialogs": 2, "pages": 1, "records": 1, "expr": 1, "review": 1}
+FOLDERS = {"frame": 2, "dialogs": 2, "review": 2, "pages": 1, "records": 1, "expr": 1}
 
 
 @dataclasses.dataclass

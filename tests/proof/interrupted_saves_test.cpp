@@ -14,6 +14,7 @@
 #include "module/host_folder.h"
 #include "option_pages.h"
 #include "settings_text.h"
+#include "ui/process.h"
 #include "ui/ui_thread.h"
 
 namespace {
@@ -54,9 +55,7 @@ public:
     {
         const std::string command =
             ProgramFolder() + "saving_host.exe " + what + " " + m_ready.Text() + " " + m_go.Text() + " " + rounds;
-        // Among hundreds of processes that come and are killed, once in a while one does not start at first.
-        if (!ui::WaitUntil([&] { return Start(command); }))
-            ADD_FAILURE() << command << ": error " << GetLastError();
+        m_process = ui::StartProcess(std::wstring(command.begin(), command.end()), nullptr, ui::Inherits::Handles);
     }
     ~SavingHost()
     {
@@ -83,14 +82,6 @@ public:
     }
 
 private:
-    bool Start(std::string command)
-    {
-        STARTUPINFOA startup{};
-        startup.cb = sizeof startup;
-        return CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
-                              &m_process) != FALSE;
-    }
-
     Event m_ready;
     Event m_go;
     PROCESS_INFORMATION m_process{};

@@ -4,6 +4,7 @@
 #include <PelmarDlgs.h>
 
 #include "program.h"
+#include "ui/process.h"
 
 namespace {
 
@@ -51,13 +52,10 @@ TEST(Console, ShowsRussianWhateverTheCodePage)
     const Screen screen;
     ASSERT_NE(INVALID_HANDLE_VALUE, screen.Handle());
     STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdOutput = startup.hStdError = screen.Handle();
-    std::wstring command = tool_testing::CommandLineOf({"check", folder.Path("GOOD.INI"), "--color", "never"});
-    PROCESS_INFORMATION process{};
-    ASSERT_TRUE(
-        CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process));
+    const std::wstring command = tool_testing::CommandLineOf({"check", folder.Path("GOOD.INI"), "--color", "never"});
+    const PROCESS_INFORMATION process = ui::StartProcess(command, nullptr, ui::Inherits::Handles, startup);
     WaitForSingleObject(process.hProcess, INFINITE);
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);

@@ -7,6 +7,7 @@
 #include "module/host_folder.h"
 #include "option_pages.h"
 #include "review/settings_text.h"
+#include "ui/process.h"
 
 namespace tool_testing {
 namespace {
@@ -128,17 +129,13 @@ Answer Folder::Run(const std::vector<std::string>& words) const
     SetHandleInformation(ours.Get(), HANDLE_FLAG_INHERIT, 0);
     Handle error(CreateFileA(errorFile.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr));
     STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdOutput = out.Get();
     startup.hStdError = error.Get();
-    std::wstring command = CommandLineOf(words);
-    PROCESS_INFORMATION process{};
-    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, Wide(m_path).c_str(), &startup,
-                        &process)) {
-        ADD_FAILURE() << "the program does not start: " << GetLastError();
+    const PROCESS_INFORMATION process =
+        ui::StartProcess(CommandLineOf(words), Wide(m_path).c_str(), ui::Inherits::Handles, startup);
+    if (!process.hProcess)
         return {};
-    }
     const Handle thread(process.hThread);
     const Handle itself(process.hProcess);
     out.Close();
@@ -155,14 +152,8 @@ Answer Folder::Run(const std::vector<std::string>& words) const
 PROCESS_INFORMATION Folder::Start(const std::vector<std::string>& words) const
 {
     STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
-    std::wstring command = CommandLineOf(words);
-    PROCESS_INFORMATION process{};
-    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, Wide(m_path).c_str(), &startup,
-                        &process))
-        ADD_FAILURE() << "the program does not start: " << GetLastError();
-    return process;
+    return ui::StartProcess(CommandLineOf(words), Wide(m_path).c_str(), ui::Inherits::Nothing, startup);
 }
 
 std::map<std::string, std::string> ValuesIn(std::string_view bytes)
