@@ -121,8 +121,9 @@ TEST(Findings, AValueOutOfRangeTellsTheRange)
 TEST(Findings, NoToleranceMayBeBelowZero)
 {
     for (const char* const key : {"FilterMaxSpan", "FilterLineTol", "FilterArcTol"}) {
-        const Finding finding = TheOne("[DefaultNCParameter]\n" + std::string(key) + "=-0.1\n");
-        EXPECT_EQ(finding.kind, FindingKind::OutOfRange) << key;
+        const std::string tolerance = "[DefaultNCParameter]\n" + std::string(key);
+        EXPECT_EQ(TheOne(tolerance + "=-0.1\n").kind, FindingKind::OutOfRange) << key;
+        EXPECT_TRUE(FoundBesidesMissing(tolerance + "=0\n").empty()) << key;
     }
 }
 
