@@ -535,7 +535,7 @@ private:
         int left = client.Width() - GetSystemMetrics(SM_CXVSCROLL);
         for (int column = 0; column < kLast; ++column)
             left -= m_list.GetColumnWidth(column);
-        m_list.SetColumnWidth(kLast, std::max(left, kHeads[kLast].width));
+        m_list.SetColumnWidth(kLast, std::max(left, OnThisDisplay(kHeads[kLast].width)));
     }
 
     /// Reads both files, and compares with the factory's values.
