@@ -101,7 +101,8 @@ class Worker:
         (WORK / number).mkdir(parents=True, exist_ok=True)
         # Anew: what a test that was stopped left registered in it would fail others.
         shutil.rmtree(WORK / number / "prefix", ignore_errors=True)
-        environment = dict(os.environ, PELMAR_VIRTUAL_DISPLAY="1", WINEPREFIX=str(WORK / number / "prefix"))
+        environment = dict(os.environ, PELMAR_VIRTUAL_DISPLAY="1", PELMAR_PROCESSOR=number,
+                           WINEPREFIX=str(WORK / number / "prefix"))
         self.process = subprocess.Popen(
             [ROOT / "scripts/wine-session", sys.executable, __file__, "--serve", number], stdin=subprocess.PIPE,
             stdout=subprocess.PIPE, text=True, env=environment)
