@@ -127,11 +127,11 @@ double Exp(Wide value)
 double PowerOf(double base, double exponent)
 {
     constexpr double kBeyondDoubles = 800; // in size, as a logarithm
-    const double near = std::pow(base, exponent);
+    const double roughly = std::pow(base, exponent);
     const double size = std::abs(base);
     const double logarithm = exponent * std::log(size);
     const bool isNumber = logarithm != 0 && std::abs(logarithm) < kBeyondDoubles;
-    if (!isNumber || std::isnan(near))
-        return near;
-    return std::copysign(Exp(Log(size) * exponent), near);
+    if (!isNumber || std::isnan(roughly))
+        return roughly;
+    return std::copysign(Exp(Log(size) * exponent), roughly);
 }

@@ -10,6 +10,9 @@
 
 namespace number_text {
 
+/// How many decimals of a real a settings file gets.
+constexpr int kStoredDecimals = 6;
+
 /// Whether a number that is out of the type's range is so because it is too small: its exponent says it. (Texts of up
 /// to 255 characters hold too few digits to leave the range of a double without an exponent.)
 inline bool HasNegativeExponent(std::string_view number)

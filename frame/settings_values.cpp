@@ -13,14 +13,13 @@
 
 namespace pelmar {
 namespace {
-constexpr int kStoredDecimals = 6;
 constexpr size_t kRealCapacity = 256;
 constexpr size_t kTextCapacity = 256;
 
 double ReadRealFrom(const char* file, const char* section, const char* key, double fallback)
 {
     number_text::FixedBuffer fallbackText;
-    number_text::Print(fallbackText, fallback, kStoredDecimals);
+    number_text::Print(fallbackText, fallback, number_text::kStoredDecimals);
     char text[kRealCapacity];
     profile::ReadText(section, key, fallbackText.data(), text, file);
     double value = fallback;
@@ -50,7 +49,7 @@ bool WriteWhole(const char* section, const char* key, int value)
 bool WriteReal(const char* section, const char* key, double value)
 {
     number_text::FixedBuffer text;
-    number_text::Print(text, value, kStoredDecimals);
+    number_text::Print(text, value, number_text::kStoredDecimals);
     return profile::WriteText(section, key, text.data(), SettingsFile());
 }
 

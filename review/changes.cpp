@@ -12,11 +12,11 @@
 namespace pelmar::review {
 namespace {
 
-constexpr std::size_t kStoredDecimals = 6;
+constexpr std::size_t kStoredDecimals = number_text::kStoredDecimals;
 constexpr std::size_t kMoreDecimals = 10;
 constexpr std::size_t kLongestText = 255; // what the library reads of one
 
-std::string_view Trimmed(std::string_view text)
+std::string_view WithoutBlanks(std::string_view text)
 {
     constexpr std::string_view kBlanks = " \t";
     const std::size_t first = text.find_first_not_of(kBlanks);
@@ -274,7 +274,7 @@ Entered Enter(const Setting& setting, std::string_view text, const Words& words)
 {
     if (setting.IsText())
         return EnteredText(text, words);
-    text = Trimmed(text);
+    text = WithoutBlanks(text);
     if (text.empty())
         return Refused("Введите значение.");
     if (const auto number = NumberOfWord(setting, text, words))

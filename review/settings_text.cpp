@@ -8,7 +8,6 @@
 namespace pelmar::review {
 namespace {
 
-constexpr int kStoredDecimals = 6;
 constexpr std::size_t kLongestReal = 255; // what is longer is cut off there before it is read
 constexpr std::size_t kLongestWhole = 29;
 
@@ -245,7 +244,7 @@ double StoredReal(std::string_view value, double fallback)
     if (number_text::ParseStored(Unquoted(value).substr(0, kLongestReal), real))
         return real;
     number_text::FixedBuffer printed;
-    number_text::ParseStored(number_text::Print(printed, fallback, kStoredDecimals), real);
+    number_text::ParseStored(number_text::Print(printed, fallback, number_text::kStoredDecimals), real);
     return real;
 }
 

@@ -345,3 +345,13 @@ struct SlotMill : GrooveSlotMillOf<CSlotMillDefsInfo, CDefsSlotMillPage, &CSlotM
         {"DefSlotGeomType", &R::DefSlotGeomType},
     });
 };
+
+using Mills = testing::Types<FaceMill, ChamferMill, RoundMill, GrooveMill, SlotMill>;
+
+struct MillNames {
+    template <class Mill> static std::string GetName(int)
+    {
+        const std::string header = HeaderOf(Mill::operations.fresh);
+        return header.substr(1, header.size() - 4);
+    }
+};

@@ -3,17 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "PelmarDlgs/settings_values.h"
+#include "review/test_settings.h"
 #include "review/test_words.h"
 
 using namespace pelmar;
 using namespace pelmar::review;
 
 namespace {
-
-const Setting& At(const char* section, const char* key)
-{
-    return *FindSetting(section, key);
-}
 
 SettingsText Text(std::string text)
 {

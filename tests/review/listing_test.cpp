@@ -5,17 +5,13 @@
 #include <gtest/gtest.h>
 
 #include "PelmarDlgs/settings_values.h"
+#include "review/test_settings.h"
 #include "review/test_words.h"
 
 using namespace pelmar;
 using namespace pelmar::review;
 
 namespace {
-
-Values Of(std::string text)
-{
-    return Values::AtStart(SettingsText(std::move(text)), SettingsText());
-}
 
 /// A listing of a settings text against the built-in values.
 class Review : public testing::Test {

@@ -5,22 +5,13 @@
 #include <gtest/gtest.h>
 
 #include "PelmarDlgs/settings_values.h"
+#include "review/test_settings.h"
 #include "review/test_words.h"
 
 using namespace pelmar;
 using namespace pelmar::review;
 
 namespace {
-
-const Setting& At(const char* section, const char* key)
-{
-    return *FindSetting(section, key);
-}
-
-Values Of(std::string text)
-{
-    return Values::AtStart(SettingsText(std::move(text)), SettingsText());
-}
 
 std::string Shown(const Values& values, const char* section, const char* key)
 {
