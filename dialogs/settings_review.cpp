@@ -523,7 +523,6 @@ private:
         ::SetWindowPos(m_dialog.m_hWnd, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
         if (memory.columns.back() == 0)
             FillWithFindings();
-        m_dialog.CenterWindow();
     }
 
     /// What is left beside the other columns is for the findings.

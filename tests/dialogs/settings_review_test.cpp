@@ -523,11 +523,21 @@ TEST_F(SettingsReview, ARefusedTextIsToldAndEditingGoesOn)
     EXPECT_EQ(edit, review.EditInList());
     EXPECT_EQ(edit, ui::Focus(review.window));
     EXPECT_EQ(L"20", ui::TextOf(edit));
-    SendMessage(edit, EM_SETSEL, 0, -1);
-    ui::TypeAt(edit, L"45");
+    ui::TypeAt(edit, L"45"); // in place of what was refused
     ui::Press(edit, VK_RETURN);
     EXPECT_EQ(L"45°", review.Shown(k2Axis, kAngle));
     EXPECT_FALSE(ui::IsBoxOpen());
+}
+
+TEST_F(SettingsReview, TabLeavesTheSearchAndTheList)
+{
+    const OpenReview review(dialog);
+    for (const int id : {kSearch, kList}) {
+        ui::FocusOn(review.window, id);
+        const HWND control = ui::Control(review.window, id);
+        ui::Press(control, VK_TAB);
+        EXPECT_EQ(GetNextDlgTabItem(review.window, control, FALSE), ui::Focus(review.window)) << id;
+    }
 }
 
 TEST_F(SettingsReview, EscLeavesTheEditAndNotTheDialog)
@@ -662,6 +672,16 @@ TEST_F(SettingsReview, AnotherFileIsComparedInTheUnitsOfTheRecord)
     EXPECT_EQ(L"Заводские значения", ui::TextOf(review.window, kCompared));
     EXPECT_EQ(L"1 дюйм", review.Shown(k2Axis, L"Плоскость безопасности", Compared));
     EXPECT_EQ(review.list, ui::Focus(review.window)); // the button is of no use any more
+}
+
+TEST_F(SettingsReview, AFileToCompareWithIsLookedForBesideTheSettings)
+{
+    const std::string folder = host.settings.substr(0, host.settings.rfind('\\') + 1);
+    WriteFile(folder + "BESIDE.INI", "[Options2x]\r\nUnits=0\r\nCornerAngle=75\r\n");
+    OpenReview review(dialog);
+    review.PressButton(kPickFile);
+    ui::ChooseFile(ui::WaitForFileDialog(), L"BESIDE.INI");
+    EXPECT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"75°"; }));
 }
 
 TEST_F(SettingsReview, AFileThatCannotBeComparedIsToldWithTheReason)
@@ -1004,6 +1024,22 @@ TEST_F(SettingsReview, SizeColumnsOrderAndFilterAreAsTheyWereAtTheEnd)
     head.mask = HDI_FORMAT;
     SendMessage(ListView_GetHeader(review.list), HDM_GETITEMW, Option, reinterpret_cast<LPARAM>(&head));
     EXPECT_TRUE(head.fmt & HDF_SORTDOWN);
+}
+
+TEST_F(SettingsReview, ComesUpInTheMiddleOfTheScreenWithTheSizeThatItHad)
+{
+    {
+        OpenReview review(dialog);
+        Resize(review.window, 900, 640);
+        review.End(IDCANCEL);
+    }
+    const OpenReview review(dialog);
+    RECT screen;
+    SystemParametersInfo(SPI_GETWORKAREA, 0, &screen, 0);
+    const RECT area = AreaOf(review.window);
+    EXPECT_EQ(900, area.right - area.left);
+    EXPECT_NEAR(screen.left + screen.right, area.left + area.right, 1);
+    EXPECT_NEAR(screen.top + screen.bottom, area.top + area.bottom, 1);
 }
 
 TEST_F(SettingsReview, HostileSizesAreIgnoredOrKeptWithinTheScreen)

@@ -179,6 +179,23 @@ TEST_F(FileStep, TakesNoOtherLineForTheOneThatItWrites)
 
 // ---- names, attributes, rights ----
 
+TEST_F(FileStep, TakesALineThatIsCutOffAtTheEndOfALongSectionForNoOther)
+{
+    // The platform tells as much of a section as there is room for, a million bytes here, each line with a zero.
+    constexpr std::size_t kRoom = 1 << 20;
+    constexpr std::size_t kLine = 1000;
+    for (std::size_t zeros = 0; zeros < 4; ++zeros) {
+        const std::size_t before = kRoom - zeros - std::string("Key=1").size();
+        std::string text =
+            "[A]\r\nL=" + std::string(before % kLine + kLine - std::string("L=").size() - 1, 'x') + "\r\n";
+        for (std::size_t line = 1; line < before / kLine; ++line)
+            text += "L=" + std::string(kLine - std::string("L=").size() - 1, 'x') + "\r\n";
+        folder.Write(text + "Key=10\r\n");
+        Save(folder.file, {{"A", "Key", "1"}});
+        EXPECT_TRUE(folder.Read().ends_with("\r\nKey=1\r\n")) << zeros;
+    }
+}
+
 TEST_F(FileStep, ShowsNoOtherSettingsFileWhileItWorks)
 {
     folder.Write(kOld);

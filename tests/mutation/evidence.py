@@ -96,7 +96,7 @@ PLAIN = Stage("plain_host")
 
 # What else could notice, the quickest first.
 OTHER_TESTS = {
-    "frame": [MODULE, DIALOGS, PROOF, HOST, PLAIN],
+    "frame": [MODULE, DIALOGS, HELP, PROOF, HOST, PLAIN],
     "expr": [Stage("expr_tests"), MODULE, DIALOGS, PROOF],
     "records": [Stage("review_tests", native=True), Stage("help_text_tests", native=True), MODULE, DIALOGS, TIPS, PROOF],
     "pages": [MODULE, HELP, TIPS, PROOF, HOST],

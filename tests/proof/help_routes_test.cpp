@@ -185,6 +185,7 @@ protected:
                       ui::Settle(window);
                       return PtInRect(&area, pointer) != FALSE;
                   }));
+        EXPECT_TRUE(IsWindow(window)); // the click presses nothing
         EXPECT_EQ("none", TopicAfter([&] {
                       pressCaption();
                       ui::Press(control, VK_ESCAPE);

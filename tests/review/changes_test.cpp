@@ -149,6 +149,16 @@ TEST(WithChanges, AKeyWithoutAnEqualsSignGetsItsValueThere)
     EXPECT_EQ(WithChanges(file, std::span(&change, 1)).Bytes(), "[Options2x]\nRapidPlane=2.000000\r\nUnits=0\n");
 }
 
+TEST(WithChanges, SectionsThatAreMissingFollowAtTheEndWithTheirKeys)
+{
+    const SettingsText file = Text("[Options2x]\nUnits=0\n");
+    const Change changes[] = {{&At("Options3x", "Units"), "1"},
+                              {&At("Options3x", "RapidPlane"), "25.000000"},
+                              {&At("OptionsLathe", "Units"), "0"}};
+    EXPECT_EQ(WithChanges(file, changes).Bytes(), "[Options2x]\nUnits=0\n[Options3x]\r\nUnits=1\r\n"
+                                                  "RapidPlane=25.000000\r\n[OptionsLathe]\r\nUnits=0\r\n");
+}
+
 TEST(Conversion, TheUnitsOfTheHolesStayTogether)
 {
     const SettingsText file = Text("[HoleProcess]\nUnits=0\n[HoleProcessLocation]\nUnits=0\nBandWidth=1\n");

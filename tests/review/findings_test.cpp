@@ -56,6 +56,12 @@ TEST(Findings, AnUnknownKeyThatResemblesNothingHasNoNearest)
     EXPECT_EQ(TheOne("[Options2x]\nqwertyuiop=1\n").nearest, "");
 }
 
+TEST(Findings, AShortKeyResemblesWhatIsTwoLettersAwayAndNotThree)
+{
+    EXPECT_EQ(TheOne("[Options2x]\nSotTpe=1\n").nearest, "SortType");
+    EXPECT_EQ(TheOne("[Options2x]\nSotTp=1\n").nearest, "");
+}
+
 TEST(Findings, AFileOfSlipsOnlyIsLookedThroughWithoutGuessingAtEachOfThem)
 {
     std::string text = "[Options2x]\n";
@@ -118,6 +124,22 @@ TEST(Findings, AValueOutOfRangeTellsTheRange)
     EXPECT_TRUE(FoundBesidesMissing("[Options2x]\nCornerAngle=150.000000\n").empty());
 }
 
+TEST(Findings, TheBoundsOfARangeAreWithinIt)
+{
+    int ranges = 0;
+    for (const Setting& setting : AllSettings()) {
+        const pelmar::Option& option = *setting.option;
+        const bool isNumber = option.kind != pelmar::OptionKind::Units && option.kind != pelmar::OptionKind::Switch &&
+                              option.kind != pelmar::OptionKind::Choice && !setting.IsText();
+        if (!isNumber)
+            continue;
+        ++ranges;
+        EXPECT_EQ(FaultOf(setting, option.range.low), Fault::None) << setting.Name();
+        EXPECT_EQ(FaultOf(setting, option.range.high), Fault::None) << setting.Name();
+    }
+    EXPECT_GT(ranges, 100);
+}
+
 TEST(Findings, NoToleranceMayBeBelowZero)
 {
     for (const char* const key : {"FilterMaxSpan", "FilterLineTol", "FilterArcTol"}) {
@@ -167,6 +189,12 @@ TEST(Findings, ARecordInOtherUnitsThanMostIsTold)
     EXPECT_EQ(finding.kind, FindingKind::OtherUnits);
     EXPECT_EQ(finding.line, 6);
     EXPECT_EQ(Explained(finding), "Единицы раздела (мм) не те, что у большинства разделов файла.");
+}
+
+TEST(Findings, WhereAsManyRecordsAreInInchAsInMillimetresThoseInMillimetresAreTold)
+{
+    EXPECT_EQ(TheOne("[Options2x]\nUnits=1\n[Options3x]\nUnits=0\n").line, 2);
+    EXPECT_EQ(TheOne("[Options2x]\nUnits=0\n[Options3x]\nUnits=1\n").line, 4);
 }
 
 TEST(Findings, KeysThatASectionLacksAreTold)

@@ -186,6 +186,25 @@ TEST_F(Review, WhatAFileHoldsIsBoundedAndStandsInOneLine)
     EXPECT_LT(Text(listing.Listed().front(), Column::Value).size(), 400U);
 }
 
+TEST_F(Review, AValueThatIsCutOffEndsWithAWholeLetter)
+{
+    const std::string dots = "…";
+    for (const std::string letter : {"ж", "я", "€"})
+        for (std::size_t before = 0; before < letter.size(); ++before) {
+            std::string value(before, 'x');
+            for (int count = 0; count < 300; ++count)
+                value += letter;
+            Open("[Options2x]\nOdd=" + value + "\n");
+            listing.Search("неизвестный ключ");
+            ASSERT_EQ(listing.Listed().size(), 1U);
+            const std::string shown = Text(listing.Listed().front(), Column::Value);
+            ASSERT_TRUE(shown.ends_with(dots));
+            const std::size_t kept = shown.size() - dots.size();
+            EXPECT_EQ(shown.substr(0, kept), value.substr(0, kept));
+            EXPECT_EQ((kept - before) % letter.size(), 0U) << letter << before;
+        }
+}
+
 TEST_F(Review, AnEditIsCheckedAsOnThePage)
 {
     const std::size_t angle = RowOf("Options2x", "CornerAngle");
