@@ -276,7 +276,12 @@ void PressF1(HWND control, bool withShift)
 void Click(HWND dialog, int id)
 {
     const HWND control = Control(dialog, id);
-    if (!IsWindowEnabled(control) || !IsWindowVisible(control))
+    const auto canBeClicked = [control] { return IsWindowEnabled(control) && IsWindowVisible(control); };
+    DWORD process = 0;
+    GetWindowThreadProcessId(control, &process);
+    // What another process has been told it may not have done yet.
+    const bool isOurs = process == GetCurrentProcessId();
+    if (!(isOurs ? canBeClicked() : WaitUntil(canBeClicked)))
         throw std::runtime_error("nobody can click control " + std::to_string(id));
     PostMessage(control, BM_CLICK, 0, 0);
     Settle(dialog);
