@@ -177,8 +177,6 @@ TEST_F(FileStep, TakesNoOtherLineForTheOneThatItWrites)
     EXPECT_EQ("[A]\r\nFirst=ABC\r\nSecond=1\r\n", folder.Read());
 }
 
-// ---- names, attributes, rights ----
-
 TEST_F(FileStep, TakesALineThatIsCutOffAtTheEndOfALongSectionForNoOther)
 {
     // The platform tells as much of a section as there is room for, a million bytes here, each line with a zero.
@@ -195,6 +193,8 @@ TEST_F(FileStep, TakesALineThatIsCutOffAtTheEndOfALongSectionForNoOther)
         EXPECT_TRUE(folder.Read().ends_with("\r\nKey=1\r\n")) << zeros;
     }
 }
+
+// ---- names, attributes, rights ----
 
 TEST_F(FileStep, ShowsNoOtherSettingsFileWhileItWorks)
 {
