@@ -14,10 +14,12 @@ enum DialogButton : int {
     kHelpButton = 0xE146,
 };
 
-inline constexpr std::array kDialogButtons = {
+// Not `std::array kDialogButtons = {…}`: in some sources GCC puts that among what can be written, in others not, and
+// then they do not link.
+inline constexpr auto kDialogButtons = std::to_array({
     Button(kOkButton).Help("tvaux-_popupsj_r_hidc_ok_button.htm"),
     Button(kCancelButton).Help("tvaux-_popupsa_i_hidc_cancel_button.htm"),
     Button(kHelpButton).Help("tvaux-_popupsa_i_hidc_help_button.htm"),
-};
+});
 
 } // namespace pelmar

@@ -5,10 +5,6 @@
 
 using namespace pelmar;
 
-namespace {
-constexpr auto& controls = ChamferMillTable::controls;
-} // namespace
-
 static_assert(int{CDefsCMPage::IDD} == IDD_CHAMFER_MILL);
 
 IMPLEMENT_DYNCREATE(CDefsCMPage, CExpRegenPropertyPage)
@@ -21,5 +17,5 @@ CDefsCMPage::CDefsCMPage() : CRoughFinishMillPage(IDD, new BindingOf<CChamferMil
 
 void CDefsCMPage::OnKillfocusDefChamferLength()
 {
-    Handle(At(controls, IDC_CM_CHAMFER_LENGTH));
+    Handle(At<ChamferMillTable>(IDC_CM_CHAMFER_LENGTH));
 }

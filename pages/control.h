@@ -211,16 +211,16 @@ public:
     constexpr int Id() const { return m_id; }
 
 private:
-    friend consteval ControlRow At(std::span<const Control> controls, int id);
+    template <class Table> friend consteval ControlRow At(int id);
     constexpr explicit ControlRow(int id) : m_id(id) {}
 
     int m_id;
 };
 
 /// The row of a control. Does not compile where the table lacks it.
-consteval ControlRow At(std::span<const Control> controls, int id)
+template <class Table> consteval ControlRow At(int id)
 {
-    for (const Control& control : controls)
+    for (const Control& control : Table::controls)
         if (control.id == id)
             return ControlRow(id);
     mistake::TableLacksTheControl();

@@ -5,10 +5,6 @@
 
 using namespace pelmar;
 
-namespace {
-constexpr auto& controls = FaceMillTable::controls;
-} // namespace
-
 static_assert(int{CDefsFMPage::IDD} == IDD_FACE_MILL);
 
 IMPLEMENT_DYNCREATE(CDefsFMPage, CExpRegenPropertyPage)
@@ -30,50 +26,50 @@ CDefsFMPage::CDefsFMPage() : CRoughFinishMillPage(IDD, new BindingOf<CFaceMillDe
 
 void CDefsFMPage::OnSelchangeDefFacingMethod()
 {
-    Handle(At(controls, IDC_FM_FACING_METHOD));
+    Handle(At<FaceMillTable>(IDC_FM_FACING_METHOD));
 }
 
 void CDefsFMPage::OnSelchangeDefStepoverType()
 {
-    Handle(At(controls, IDC_FM_SIDE_STEP_TYPE));
+    Handle(At<FaceMillTable>(IDC_FM_SIDE_STEP_TYPE));
 }
 
 void CDefsFMPage::OnSelchangeDefSideclearType()
 {
-    Handle(At(controls, IDC_FM_SIDE_CLEARANCE_TYPE));
+    Handle(At<FaceMillTable>(IDC_FM_SIDE_CLEARANCE_TYPE));
 }
 
 void CDefsFMPage::OnSelchangeDefFbType()
 {
-    Handle(At(controls, IDC_FM_FEED_BETWEEN_TYPE));
+    Handle(At<FaceMillTable>(IDC_FM_FEED_BETWEEN_TYPE));
 }
 
 void CDefsFMPage::OnKillfocusDefCutAngle()
 {
-    Handle(At(controls, IDC_FM_CUTTING_ANGLE));
+    Handle(At<FaceMillTable>(IDC_FM_CUTTING_ANGLE));
 }
 
 void CDefsFMPage::OnKillfocusDefAmountRemove()
 {
-    Handle(At(controls, IDC_FM_REMOVE_Z));
+    Handle(At<FaceMillTable>(IDC_FM_REMOVE_Z));
 }
 
 void CDefsFMPage::OnKillfocusDefMaxSideStep()
 {
-    Handle(At(controls, IDC_FM_SIDE_STEP));
+    Handle(At<FaceMillTable>(IDC_FM_SIDE_STEP));
 }
 
 void CDefsFMPage::OnKillfocusDefSideClear()
 {
-    Handle(At(controls, IDC_FM_SIDE_CLEARANCE));
+    Handle(At<FaceMillTable>(IDC_FM_SIDE_CLEARANCE));
 }
 
 void CDefsFMPage::OnKillfocusDefFb()
 {
-    Handle(At(controls, IDC_FM_MAX_FEED_BETWEEN));
+    Handle(At<FaceMillTable>(IDC_FM_MAX_FEED_BETWEEN));
 }
 
 void CDefsFMPage::OnKillfocusDefNoFinishPass()
 {
-    Handle(At(controls, IDC_FEATURE_FINISH_PASSES));
+    Handle(At<FaceMillTable>(IDC_FEATURE_FINISH_PASSES));
 }

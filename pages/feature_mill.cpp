@@ -6,7 +6,7 @@ namespace pelmar {
 
 namespace {
 /// Any such page's: what is handled here, all of them hold.
-constexpr auto& controls = ChamferMillTable::controls;
+using FeatureMillTable = ChamferMillTable;
 } // namespace
 
 // ---- all of them ----
@@ -34,37 +34,37 @@ END_MESSAGE_MAP()
 
 void CRoughFinishMillPage::OnSelchangeDefCuttingDir()
 {
-    Handle(At(controls, IDC_FEATURE_CUTTING_DIRECTION));
+    Handle(At<FeatureMillTable>(IDC_FEATURE_CUTTING_DIRECTION));
 }
 
 void CRoughFinishMillPage::OnSelchangeDefRdocType()
 {
-    Handle(At(controls, IDC_FEATURE_ROUGH_DEPTH_TYPE));
+    Handle(At<FeatureMillTable>(IDC_FEATURE_ROUGH_DEPTH_TYPE));
 }
 
 void CRoughFinishMillPage::OnSelchangeDefFdocType()
 {
-    Handle(At(controls, IDC_FEATURE_FINISH_DEPTH_TYPE));
+    Handle(At<FeatureMillTable>(IDC_FEATURE_FINISH_DEPTH_TYPE));
 }
 
 void CRoughFinishMillPage::OnKillfocusDefStockLeave()
 {
-    Handle(At(controls, IDC_FEATURE_STOCK));
+    Handle(At<FeatureMillTable>(IDC_FEATURE_STOCK));
 }
 
 void CRoughFinishMillPage::OnKillfocusDefMaxRoughDoc()
 {
-    Handle(At(controls, IDC_FEATURE_ROUGH_DEPTH));
+    Handle(At<FeatureMillTable>(IDC_FEATURE_ROUGH_DEPTH));
 }
 
 void CRoughFinishMillPage::OnKillfocusDefFinishDoc()
 {
-    Handle(At(controls, IDC_FEATURE_FINISH_DEPTH));
+    Handle(At<FeatureMillTable>(IDC_FEATURE_FINISH_DEPTH));
 }
 
 void CRoughFinishMillPage::OnKillfocusDefRapidPlane()
 {
-    Handle(At(controls, IDC_FEATURE_RAPID_PLANE));
+    Handle(At<FeatureMillTable>(IDC_FEATURE_RAPID_PLANE));
 }
 
 } // namespace pelmar

@@ -5,10 +5,6 @@
 
 using namespace pelmar;
 
-namespace {
-constexpr auto& controls = FlatSurfaceTable::controls;
-} // namespace
-
 static_assert(int{CDefsFlatSurfacePage::IDD} == IDD_FS);
 
 IMPLEMENT_DYNCREATE(CDefsFlatSurfacePage, CExpRegenPropertyPage)
@@ -35,7 +31,7 @@ void CDefsFlatSurfacePage::OnChangeFSOptions()
 
 void CDefsFlatSurfacePage::OnKillFSideStep()
 {
-    Handle(At(controls, IDC_POCKET_SIDE_STEP));
+    Handle(At<FlatSurfaceTable>(IDC_POCKET_SIDE_STEP));
 }
 
 void CDefsFlatSurfacePage::OnRestoreDefaults()

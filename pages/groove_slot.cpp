@@ -6,7 +6,7 @@ namespace pelmar {
 
 namespace {
 /// Either page's: what is handled here, both hold.
-constexpr auto& controls = GrooveMillTable::controls;
+using GrooveSlotTable = GrooveMillTable;
 } // namespace
 
 BEGIN_MESSAGE_MAP(CGrooveSlotPage, CFeatureMillPage)
@@ -23,47 +23,47 @@ END_MESSAGE_MAP()
 
 void CGrooveSlotPage::OnSelchangeDefGrooveDepthTypeCombo()
 {
-    Handle(At(controls, IDC_GROOVE_SLOT_DEPTH_TYPE));
+    Handle(At<GrooveSlotTable>(IDC_GROOVE_SLOT_DEPTH_TYPE));
 }
 
 void CGrooveSlotPage::OnSelchangeDefGrooveGeomTypeCombo()
 {
-    Handle(At(controls, IDC_GROOVE_SLOT_GEOMETRY));
+    Handle(At<GrooveSlotTable>(IDC_GROOVE_SLOT_GEOMETRY));
 }
 
 void CGrooveSlotPage::OnSelchangeDefCuttingDirCombo()
 {
-    Handle(At(controls, IDC_FEATURE_CUTTING_DIRECTION));
+    Handle(At<GrooveSlotTable>(IDC_FEATURE_CUTTING_DIRECTION));
 }
 
 void CGrooveSlotPage::OnSelchangeDefRdocTypeCombo()
 {
-    Handle(At(controls, IDC_FEATURE_ROUGH_DEPTH_TYPE));
+    Handle(At<GrooveSlotTable>(IDC_FEATURE_ROUGH_DEPTH_TYPE));
 }
 
 void CGrooveSlotPage::OnKillfocusDefRapidPlaneEdit()
 {
-    Handle(At(controls, IDC_FEATURE_RAPID_PLANE));
+    Handle(At<GrooveSlotTable>(IDC_FEATURE_RAPID_PLANE));
 }
 
 void CGrooveSlotPage::OnKillfocusDefPlungeClearEdit()
 {
-    Handle(At(controls, IDC_GROOVE_SLOT_PLUNGE_CLEARANCE));
+    Handle(At<GrooveSlotTable>(IDC_GROOVE_SLOT_PLUNGE_CLEARANCE));
 }
 
 void CGrooveSlotPage::OnKillfocusDefStockLeaveEdit()
 {
-    Handle(At(controls, IDC_FEATURE_STOCK));
+    Handle(At<GrooveSlotTable>(IDC_FEATURE_STOCK));
 }
 
 void CGrooveSlotPage::OnKillfocusDefMaxRoughDocEdit()
 {
-    Handle(At(controls, IDC_FEATURE_ROUGH_DEPTH));
+    Handle(At<GrooveSlotTable>(IDC_FEATURE_ROUGH_DEPTH));
 }
 
 void CGrooveSlotPage::OnKillfocusDefRampAngleEdit()
 {
-    Handle(At(controls, IDC_GROOVE_SLOT_RAMP_ANGLE));
+    Handle(At<GrooveSlotTable>(IDC_GROOVE_SLOT_RAMP_ANGLE));
 }
 
 } // namespace pelmar

@@ -246,7 +246,7 @@ private:
     CExpRegenPropertyPage& m_page;
 };
 
-HoleBinding& In(PageBinding& binding)
+HoleBinding& HoleOf(PageBinding& binding)
 {
     return static_cast<HoleBinding&>(binding);
 }
@@ -279,22 +279,22 @@ DefsHoleProcessPage::DefsHoleProcessPage() : CRecordPage(IDD, new HoleBinding(*t
 
 void DefsHoleProcessPage::OnSelChangeSortBy()
 {
-    In(Binding()).TakeSort();
+    HoleOf(Binding()).TakeSort();
 }
 
 void DefsHoleProcessPage::OnCheckAccurateMode()
 {
-    In(Binding()).TakeAccurateMode();
+    HoleOf(Binding()).TakeAccurateMode();
 }
 
 void DefsHoleProcessPage::OnCheckBandWidth()
 {
-    In(Binding()).TakeBandWidth();
+    HoleOf(Binding()).TakeBandWidth();
 }
 
 void DefsHoleProcessPage::OnSelFile()
 {
-    CStringA& startupTemplate = In(Binding()).record.StartupTemplate;
+    CStringA& startupTemplate = HoleOf(Binding()).record.StartupTemplate;
     const auto folder = TemplateText::FromProfile("DefaultPath", "HoleProcessTemplates", "",
                                                   GetSettingsLocations().hostSettingsFile.c_str());
     const CString initialFolder(folder.c_str());
@@ -318,60 +318,60 @@ void DefsHoleProcessPage::OnSelFile()
 
 void DefsHoleProcessPage::OnSelMajorRight()
 {
-    In(Binding()).TakeMajorDir(0);
+    HoleOf(Binding()).TakeMajorDir(0);
 }
 
 void DefsHoleProcessPage::OnSelMajorLeft()
 {
-    In(Binding()).TakeMajorDir(1);
+    HoleOf(Binding()).TakeMajorDir(1);
 }
 
 void DefsHoleProcessPage::OnSelMajorUp()
 {
-    In(Binding()).TakeMajorDir(2);
+    HoleOf(Binding()).TakeMajorDir(2);
 }
 
 void DefsHoleProcessPage::OnSelMajorDown()
 {
-    In(Binding()).TakeMajorDir(3);
+    HoleOf(Binding()).TakeMajorDir(3);
 }
 
 void DefsHoleProcessPage::OnSelStepRight()
 {
-    In(Binding()).TakeStepDir(0);
+    HoleOf(Binding()).TakeStepDir(0);
 }
 
 void DefsHoleProcessPage::OnSelStepLeft()
 {
-    In(Binding()).TakeStepDir(1);
+    HoleOf(Binding()).TakeStepDir(1);
 }
 
 void DefsHoleProcessPage::OnSelStepUp()
 {
-    In(Binding()).TakeStepDir(2);
+    HoleOf(Binding()).TakeStepDir(2);
 }
 
 void DefsHoleProcessPage::OnSelStepDown()
 {
-    In(Binding()).TakeStepDir(3);
+    HoleOf(Binding()).TakeStepDir(3);
 }
 
 void DefsHoleProcessPage::OnSelAccurateRD()
 {
-    In(Binding()).TakeAccurateDir(0);
+    HoleOf(Binding()).TakeAccurateDir(0);
 }
 
 void DefsHoleProcessPage::OnSelAccurateLD()
 {
-    In(Binding()).TakeAccurateDir(1);
+    HoleOf(Binding()).TakeAccurateDir(1);
 }
 
 void DefsHoleProcessPage::OnSelAccurateRU()
 {
-    In(Binding()).TakeAccurateDir(2);
+    HoleOf(Binding()).TakeAccurateDir(2);
 }
 
 void DefsHoleProcessPage::OnSelAccurateLU()
 {
-    In(Binding()).TakeAccurateDir(3);
+    HoleOf(Binding()).TakeAccurateDir(3);
 }

@@ -13,7 +13,6 @@
 using namespace pelmar;
 
 namespace {
-constexpr auto& controls = LatheTable::controls;
 
 /// Where the two axis modes of a measure, input and display, are among all of them.
 enum Measure { kByRadius = 0, kByDiameter = 2 };
@@ -35,7 +34,7 @@ private:
     }
 };
 
-LatheBinding& In(PageBinding& binding)
+LatheBinding& LatheOf(PageBinding& binding)
 {
     return static_cast<LatheBinding&>(binding);
 }
@@ -105,14 +104,14 @@ CDefsLathePage::CDefsLathePage() : CRecordPage(IDD, new LatheBinding) {}
 void CDefsLathePage::GetData(int units)
 {
     CRecordPage::GetData(units);
-    In(Binding()).hidesAxisModes = true;
+    LatheOf(Binding()).hidesAxisModes = true;
 }
 
 void CDefsLathePage::GetData(int units, const LatheAxisLabels* labels, const int* active,
                              const LatheAxisDirections* directions)
 {
     CRecordPage::GetData(units);
-    LatheAxisMode* const modes = In(Binding()).axisModes;
+    LatheAxisMode* const modes = LatheOf(Binding()).axisModes;
     for (int mode = 0; mode < kLatheAxisModes; ++mode) {
         modes[mode].active = active[mode];
         for (int axis = 0; axis < 3; ++axis) {
@@ -125,7 +124,7 @@ void CDefsLathePage::GetData(int units, const LatheAxisLabels* labels, const int
 
 void CDefsLathePage::SetData(LatheAxisLabels* labels, int* active, LatheAxisDirections* directions) const
 {
-    const LatheAxisMode* const modes = In(Binding()).axisModes;
+    const LatheAxisMode* const modes = LatheOf(Binding()).axisModes;
     for (int mode = 0; mode < kLatheAxisModes; ++mode) {
         active[mode] = modes[mode].active;
         for (int axis = 0; axis < 3; ++axis) {
@@ -143,49 +142,49 @@ void CDefsLathePage::OnChangeEdit()
 
 void CDefsLathePage::OnKillFCornerAngle()
 {
-    Handle(At(controls, IDC_LATHE_CORNER_ANGLE));
+    Handle(At<LatheTable>(IDC_LATHE_CORNER_ANGLE));
 }
 
 void CDefsLathePage::OnKillFCornerClearance()
 {
-    Handle(At(controls, IDC_LATHE_CORNER_CLEARANCE));
+    Handle(At<LatheTable>(IDC_LATHE_CORNER_CLEARANCE));
 }
 
 void CDefsLathePage::OnKillFGrooveSideStep()
 {
-    Handle(At(controls, IDC_LATHE_GROOVE_SIDE_STEP));
+    Handle(At<LatheTable>(IDC_LATHE_GROOVE_SIDE_STEP));
 }
 
 void CDefsLathePage::OnSelCornerAngleType()
 {
-    Handle(At(controls, IDC_LATHE_CORNER_ANGLE_TYPE));
+    Handle(At<LatheTable>(IDC_LATHE_CORNER_ANGLE_TYPE));
 }
 
 /// Unlike the other lists, this one stores that nothing is selected.
 void CDefsLathePage::OnSelLeadInType()
 {
-    In(Binding()).record.LeadInSpeed = SelectedIndex(*this, IDC_LATHE_LEAD_IN_SPEED).value_or(-1);
+    LatheOf(Binding()).record.LeadInSpeed = SelectedIndex(*this, IDC_LATHE_LEAD_IN_SPEED).value_or(-1);
     SetModified();
 }
 
 void CDefsLathePage::OnSelLeadOutType()
 {
-    Handle(At(controls, IDC_LATHE_LEAD_OUT_SPEED));
+    Handle(At<LatheTable>(IDC_LATHE_LEAD_OUT_SPEED));
 }
 
 void CDefsLathePage::OnSelFollow()
 {
-    Handle(At(controls, IDC_LATHE_FOLLOW));
+    Handle(At<LatheTable>(IDC_LATHE_FOLLOW));
 }
 
 void CDefsLathePage::OnRadialInputDisplay()
 {
-    EditAxisModes(*this, In(Binding()), IDS_LATHE_AXES_RADIUS, kByRadius, kByDiameter);
+    EditAxisModes(*this, LatheOf(Binding()), IDS_LATHE_AXES_RADIUS, kByRadius, kByDiameter);
 }
 
 void CDefsLathePage::OnDiameterInputDisplay()
 {
-    EditAxisModes(*this, In(Binding()), IDS_LATHE_AXES_DIAMETER, kByDiameter, kByRadius);
+    EditAxisModes(*this, LatheOf(Binding()), IDS_LATHE_AXES_DIAMETER, kByDiameter, kByRadius);
 }
 
 void CDefsLathePage::OnRestoreDefaults()
@@ -198,8 +197,8 @@ LRESULT CDefsLathePage::WriteToIni(WPARAM, LPARAM)
     const char* const file = GetSettingsLocations().hostSettingsFile.c_str();
     SaveStep step;
     for (int mode = 0; mode < kLatheAxisModes; ++mode)
-        profile::WriteText(kAxisModeSection, kAxisModeKeys[mode], AxisModeLine(In(Binding()).axisModes[mode]).c_str(),
-                           file);
+        profile::WriteText(kAxisModeSection, kAxisModeKeys[mode],
+                           AxisModeLine(LatheOf(Binding()).axisModes[mode]).c_str(), file);
     step.Commit();
     return 0;
 }

@@ -6,7 +6,6 @@
 using namespace pelmar;
 
 namespace {
-constexpr auto& controls = Milling2AxisTable::controls;
 
 // Operations that change the page.
 constexpr int kAlignsPlunges = 6;
@@ -89,7 +88,7 @@ private:
     const CDefs2xPage& m_page;
 };
 
-Binding2x& In(PageBinding& binding)
+Binding2x& MillingOf(PageBinding& binding)
 {
     return static_cast<Binding2x&>(binding);
 }
@@ -140,13 +139,13 @@ CDefs2xPage::CDefs2xPage() : CRecordPage(IDD, new Binding2x(*this)) {}
 void CDefs2xPage::GetData(int units)
 {
     CRecordPage::GetData(units);
-    In(Binding()).hidesCompensation = true;
+    MillingOf(Binding()).hidesCompensation = true;
 }
 
 void CDefs2xPage::GetData(int units, int lookAhead, int showToolpath)
 {
     CRecordPage::GetData(units);
-    Binding2x& binding = In(Binding());
+    Binding2x& binding = MillingOf(Binding());
     binding.lookAhead = lookAhead;
     binding.showToolpath = showToolpath;
     binding.ShowCompensation(*this);
@@ -154,169 +153,169 @@ void CDefs2xPage::GetData(int units, int lookAhead, int showToolpath)
 
 void CDefs2xPage::SetData(int& lookAhead, int& showToolpath)
 {
-    lookAhead = In(Binding()).lookAhead;
-    showToolpath = In(Binding()).showToolpath;
+    lookAhead = MillingOf(Binding()).lookAhead;
+    showToolpath = MillingOf(Binding()).showToolpath;
 }
 
 void CDefs2xPage::OnKillFMaxFeedBetween()
 {
-    Handle(At(controls, IDC_2X_MAX_FEED_BETWEEN));
+    Handle(At<Milling2AxisTable>(IDC_2X_MAX_FEED_BETWEEN));
 }
 
 void CDefs2xPage::OnKillFCornerAngle()
 {
-    Handle(At(controls, IDC_2X_CORNER_ANGLE));
+    Handle(At<Milling2AxisTable>(IDC_2X_CORNER_ANGLE));
 }
 
 void CDefs2xPage::OnKillFCornerClearance()
 {
-    Handle(At(controls, IDC_2X_CORNER_CLEARANCE));
+    Handle(At<Milling2AxisTable>(IDC_2X_CORNER_CLEARANCE));
 }
 
 void CDefs2xPage::OnKillFSideClearance()
 {
-    Handle(At(controls, IDC_2X_SIDE_CLEARANCE));
+    Handle(At<Milling2AxisTable>(IDC_2X_SIDE_CLEARANCE));
 }
 
 void CDefs2xPage::OnKillFSideRoughStep()
 {
-    Handle(At(controls, IDC_2X_SIDE_ROUGH_STEP));
+    Handle(At<Milling2AxisTable>(IDC_2X_SIDE_ROUGH_STEP));
 }
 
 void CDefs2xPage::OnKillFSideFinishStep()
 {
-    Handle(At(controls, IDC_2X_SIDE_FINISH_STEP));
+    Handle(At<Milling2AxisTable>(IDC_2X_SIDE_FINISH_STEP));
 }
 
 void CDefs2xPage::OnKillFDepthRoughStep()
 {
-    Handle(At(controls, IDC_2X_DEPTH_ROUGH_STEP));
+    Handle(At<Milling2AxisTable>(IDC_2X_DEPTH_ROUGH_STEP));
 }
 
 void CDefs2xPage::OnKillFDepthFinishStep()
 {
-    Handle(At(controls, IDC_2X_DEPTH_FINISH_STEP));
+    Handle(At<Milling2AxisTable>(IDC_2X_DEPTH_FINISH_STEP));
 }
 
 void CDefs2xPage::OnKillFRapidPlane()
 {
-    Handle(At(controls, IDC_2X_RAPID_PLANE));
+    Handle(At<Milling2AxisTable>(IDC_2X_RAPID_PLANE));
 }
 
 void CDefs2xPage::OnKillFRapidPlunge()
 {
-    Handle(At(controls, IDC_2X_RAPID_PLUNGE));
+    Handle(At<Milling2AxisTable>(IDC_2X_RAPID_PLUNGE));
 }
 
 void CDefs2xPage::OnSelFeedBetweenType()
 {
-    Handle(At(controls, IDC_2X_FEED_BETWEEN_TYPE));
+    Handle(At<Milling2AxisTable>(IDC_2X_FEED_BETWEEN_TYPE));
 }
 
 void CDefs2xPage::OnSelCornerAngleType()
 {
-    Handle(At(controls, IDC_2X_CORNER_ANGLE_TYPE));
+    Handle(At<Milling2AxisTable>(IDC_2X_CORNER_ANGLE_TYPE));
 }
 
 void CDefs2xPage::OnSelCornerClearType()
 {
-    Handle(At(controls, IDC_2X_CORNER_CLEARANCE_TYPE));
+    Handle(At<Milling2AxisTable>(IDC_2X_CORNER_CLEARANCE_TYPE));
 }
 
 void CDefs2xPage::OnSelSideClearType()
 {
-    Handle(At(controls, IDC_2X_SIDE_CLEARANCE_TYPE));
+    Handle(At<Milling2AxisTable>(IDC_2X_SIDE_CLEARANCE_TYPE));
 }
 
 void CDefs2xPage::OnSelSideRoughStepType()
 {
-    Handle(At(controls, IDC_2X_SIDE_ROUGH_STEP_TYPE));
+    Handle(At<Milling2AxisTable>(IDC_2X_SIDE_ROUGH_STEP_TYPE));
 }
 
 void CDefs2xPage::OnSelSideFinishStepType()
 {
-    Handle(At(controls, IDC_2X_SIDE_FINISH_STEP_TYPE));
+    Handle(At<Milling2AxisTable>(IDC_2X_SIDE_FINISH_STEP_TYPE));
 }
 
 void CDefs2xPage::OnSelDepthRoughStepType()
 {
-    Handle(At(controls, IDC_2X_DEPTH_ROUGH_STEP_TYPE));
+    Handle(At<Milling2AxisTable>(IDC_2X_DEPTH_ROUGH_STEP_TYPE));
 }
 
 void CDefs2xPage::OnSelDepthFinishStepType()
 {
-    Handle(At(controls, IDC_2X_DEPTH_FINISH_STEP_TYPE));
+    Handle(At<Milling2AxisTable>(IDC_2X_DEPTH_FINISH_STEP_TYPE));
 }
 
 void CDefs2xPage::OnSelPathIslandDepthType()
 {
-    Handle(At(controls, IDC_2X_PATH_ISLAND_DEPTHS));
+    Handle(At<Milling2AxisTable>(IDC_2X_PATH_ISLAND_DEPTHS));
 }
 
 void CDefs2xPage::OnSelGougeCheckType()
 {
-    Handle(At(controls, IDC_2X_GOUGE_CHECK));
+    Handle(At<Milling2AxisTable>(IDC_2X_GOUGE_CHECK));
 }
 
 void CDefs2xPage::OnSelCutterCompTop()
 {
-    Handle(At(controls, IDC_2X_CUTTER_COMP_TOP));
+    Handle(At<Milling2AxisTable>(IDC_2X_CUTTER_COMP_TOP));
 }
 
 void CDefs2xPage::OnSelFeedBetweenRate()
 {
-    Handle(At(controls, IDC_2X_FEED_BETWEEN_RATE));
+    Handle(At<Milling2AxisTable>(IDC_2X_FEED_BETWEEN_RATE));
 }
 
 void CDefs2xPage::OnSelThreadMillFeedBetween()
 {
-    Handle(At(controls, IDC_2X_THREAD_MILL_FEED_BETWEEN));
+    Handle(At<Milling2AxisTable>(IDC_2X_THREAD_MILL_FEED_BETWEEN));
 }
 
 void CDefs2xPage::OnSelDepthFirst()
 {
-    Handle(At(controls, IDC_2X_DEPTH_FIRST));
+    Handle(At<Milling2AxisTable>(IDC_2X_DEPTH_FIRST));
 }
 
 void CDefs2xPage::OnSelFinishCutOn()
 {
-    Handle(At(controls, IDC_2X_FINISH_CUT_ON));
+    Handle(At<Milling2AxisTable>(IDC_2X_FINISH_CUT_ON));
 }
 
 void CDefs2xPage::OnSelPocketNestingType()
 {
-    Handle(At(controls, IDC_2X_POCKET_NESTING_TYPE));
+    Handle(At<Milling2AxisTable>(IDC_2X_POCKET_NESTING_TYPE));
 }
 
 void CDefs2xPage::OnSelSortType()
 {
-    Handle(At(controls, IDC_2X_SORT_TYPE));
+    Handle(At<Milling2AxisTable>(IDC_2X_SORT_TYPE));
 }
 
 void CDefs2xPage::OnSelDispPlungeChanges()
 {
-    Handle(At(controls, IDC_2X_DISPLAY_PLUNGE_CHANGES));
+    Handle(At<Milling2AxisTable>(IDC_2X_DISPLAY_PLUNGE_CHANGES));
 }
 
 void CDefs2xPage::OnSelIslandPlunges()
 {
-    Handle(At(controls, IDC_2X_ISLAND_PLUNGES));
+    Handle(At<Milling2AxisTable>(IDC_2X_ISLAND_PLUNGES));
 }
 
 void CDefs2xPage::OnSelAlignPlunges()
 {
-    Handle(At(controls, IDC_2X_ALIGN_PLUNGES));
+    Handle(At<Milling2AxisTable>(IDC_2X_ALIGN_PLUNGES));
 }
 
 void CDefs2xPage::OnSelLookAhead()
 {
-    StoreSelection(*this, IDC_2X_LOOK_AHEAD, In(Binding()).lookAhead);
+    StoreSelection(*this, IDC_2X_LOOK_AHEAD, MillingOf(Binding()).lookAhead);
     SetModified();
 }
 
 void CDefs2xPage::OnSelPEShowToolpath()
 {
-    StoreSelection(*this, IDC_2X_SHOW_TOOLPATH, In(Binding()).showToolpath);
+    StoreSelection(*this, IDC_2X_SHOW_TOOLPATH, MillingOf(Binding()).showToolpath);
     SetModified();
 }
 

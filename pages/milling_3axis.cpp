@@ -6,7 +6,6 @@
 using namespace pelmar;
 
 namespace {
-constexpr auto& controls = Milling3AxisTable::controls;
 
 class Binding3x : public BindingOf<C3AxisOptionsInfo> {
 public:
@@ -59,87 +58,87 @@ CDefs3xPage::CDefs3xPage() : CRecordPage(IDD, new Binding3x) {}
 
 void CDefs3xPage::OnKillFFeedBetweenClearance()
 {
-    Handle(At(controls, IDC_3X_FEED_BETWEEN_CLEARANCE));
+    Handle(At<Milling3AxisTable>(IDC_3X_FEED_BETWEEN_CLEARANCE));
 }
 
 void CDefs3xPage::OnKillFMaxFeedBetween()
 {
-    Handle(At(controls, IDC_3X_MAX_FEED_BETWEEN));
+    Handle(At<Milling3AxisTable>(IDC_3X_MAX_FEED_BETWEEN));
 }
 
 void CDefs3xPage::OnKillFScallopSample()
 {
-    Handle(At(controls, IDC_3X_SCALLOP_SAMPLE));
+    Handle(At<Milling3AxisTable>(IDC_3X_SCALLOP_SAMPLE));
 }
 
 void CDefs3xPage::OnKillFScallopAngle()
 {
-    Handle(At(controls, IDC_3X_SCALLOP_ANGLE));
+    Handle(At<Milling3AxisTable>(IDC_3X_SCALLOP_ANGLE));
 }
 
 void CDefs3xPage::OnKillFRapidPlane()
 {
-    Handle(At(controls, IDC_3X_RAPID_PLANE));
+    Handle(At<Milling3AxisTable>(IDC_3X_RAPID_PLANE));
 }
 
 void CDefs3xPage::OnKillFRapidPlunge()
 {
-    Handle(At(controls, IDC_3X_RAPID_PLUNGE));
+    Handle(At<Milling3AxisTable>(IDC_3X_RAPID_PLUNGE));
 }
 
 void CDefs3xPage::OnSelFeedBetweenType()
 {
-    Handle(At(controls, IDC_3X_FEED_BETWEEN_TYPE));
+    Handle(At<Milling3AxisTable>(IDC_3X_FEED_BETWEEN_TYPE));
 }
 
 void CDefs3xPage::OnSelFeedBetweenRate()
 {
-    Handle(At(controls, IDC_3X_FEED_BETWEEN_RATE));
+    Handle(At<Milling3AxisTable>(IDC_3X_FEED_BETWEEN_RATE));
 }
 
 void CDefs3xPage::OnSelLeadOnFeed()
 {
-    Handle(At(controls, IDC_3X_LEAD_ON_FEED));
+    Handle(At<Milling3AxisTable>(IDC_3X_LEAD_ON_FEED));
 }
 
 void CDefs3xPage::OnSelRapidFrequency()
 {
-    Handle(At(controls, IDC_3X_RAPID_FREQUENCY));
+    Handle(At<Milling3AxisTable>(IDC_3X_RAPID_FREQUENCY));
 }
 
 void CDefs3xPage::OnSelSideStepMode()
 {
-    Handle(At(controls, IDC_3X_SIDE_STEP_MODE));
+    Handle(At<Milling3AxisTable>(IDC_3X_SIDE_STEP_MODE));
 }
 
 void CDefs3xPage::OnSelWriteNormal()
 {
-    Handle(At(controls, IDC_3X_WRITE_NORMAL));
+    Handle(At<Milling3AxisTable>(IDC_3X_WRITE_NORMAL));
 }
 
 void CDefs3xPage::OnSelVerticalCheck()
 {
-    Handle(At(controls, IDC_3X_VERTICAL_CHECK));
+    Handle(At<Milling3AxisTable>(IDC_3X_VERTICAL_CHECK));
 }
 
 void CDefs3xPage::OnSelSaveZSlices()
 {
-    Handle(At(controls, IDC_3X_SAVE_Z_SLICES));
+    Handle(At<Milling3AxisTable>(IDC_3X_SAVE_Z_SLICES));
 }
 
 void CDefs3xPage::OnSelScallopSampleType()
 {
-    Handle(At(controls, IDC_3X_SCALLOP_SAMPLE_TYPE));
+    Handle(At<Milling3AxisTable>(IDC_3X_SCALLOP_SAMPLE_TYPE));
 }
 
 void CDefs3xPage::OnSelLeadChanges()
 {
-    Handle(At(controls, IDC_3X_DISPLAY_LEAD_CHANGES));
+    Handle(At<Milling3AxisTable>(IDC_3X_DISPLAY_LEAD_CHANGES));
 }
 
 void CDefs3xPage::OnSelSortType()
 {
-    Handle(At(controls, IDC_3X_SORT_TYPE));
+    Handle(At<Milling3AxisTable>(IDC_3X_SORT_TYPE));
 }
 
 void CDefs3xPage::OnChangeOptionInfo()

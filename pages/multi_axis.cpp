@@ -10,7 +10,7 @@ namespace pelmar {
 
 namespace {
 /// Either page's: what is handled here, both hold.
-constexpr auto& controls = Milling4AxisTable::controls;
+using MultiAxisTable = Milling4AxisTable;
 
 AxisHolder& AxisOf(PageBinding& binding)
 {
@@ -68,72 +68,72 @@ void CMultiAxisPage::OnChangeOptionInfo()
 
 void CMultiAxisPage::OnKillFFeedBetweenClearance()
 {
-    Handle(At(controls, IDC_MX_FEED_BETWEEN_CLEARANCE));
+    Handle(At<MultiAxisTable>(IDC_MX_FEED_BETWEEN_CLEARANCE));
 }
 
 void CMultiAxisPage::OnKillFMaxFeedBetween()
 {
-    Handle(At(controls, IDC_MX_MAX_FEED_BETWEEN));
+    Handle(At<MultiAxisTable>(IDC_MX_MAX_FEED_BETWEEN));
 }
 
 void CMultiAxisPage::OnKillFRapidPlane()
 {
-    Handle(At(controls, IDC_MX_RAPID_PLANE));
+    Handle(At<MultiAxisTable>(IDC_MX_RAPID_PLANE));
 }
 
 void CMultiAxisPage::OnKillFRapidPlunge()
 {
-    Handle(At(controls, IDC_MX_RAPID_PLUNGE));
+    Handle(At<MultiAxisTable>(IDC_MX_RAPID_PLUNGE));
 }
 
 void CMultiAxisPage::OnSelRotaryMotionType()
 {
-    Handle(At(controls, IDC_MX_ROTARY));
+    Handle(At<MultiAxisTable>(IDC_MX_ROTARY));
 }
 
 void CMultiAxisPage::OnSelFeedBetweenType()
 {
-    Handle(At(controls, IDC_MX_FEED_BETWEEN_TYPE));
+    Handle(At<MultiAxisTable>(IDC_MX_FEED_BETWEEN_TYPE));
 }
 
 void CMultiAxisPage::OnSelFeedBetweenRate()
 {
-    Handle(At(controls, IDC_MX_FEED_BETWEEN_RATE));
+    Handle(At<MultiAxisTable>(IDC_MX_FEED_BETWEEN_RATE));
 }
 
 void CMultiAxisPage::OnSelLeadOnFeed()
 {
-    Handle(At(controls, IDC_MX_LEAD_ON_FEED));
+    Handle(At<MultiAxisTable>(IDC_MX_LEAD_ON_FEED));
 }
 
 void CMultiAxisPage::OnSelChangeToolAxis()
 {
-    Handle(At(controls, IDC_MX_CHANGE_TOOL_AXIS));
+    Handle(At<MultiAxisTable>(IDC_MX_CHANGE_TOOL_AXIS));
 }
 
 void CMultiAxisPage::OnSelToolVertical()
 {
-    Handle(At(controls, IDC_MX_VERTICAL_FOR_RAPID));
+    Handle(At<MultiAxisTable>(IDC_MX_VERTICAL_FOR_RAPID));
 }
 
 void CMultiAxisPage::OnSelRapidFrequency()
 {
-    Handle(At(controls, IDC_MX_RAPID_FREQUENCY));
+    Handle(At<MultiAxisTable>(IDC_MX_RAPID_FREQUENCY));
 }
 
 void CMultiAxisPage::OnSelSideStepMode()
 {
-    Handle(At(controls, IDC_MX_SIDE_STEP_MODE));
+    Handle(At<MultiAxisTable>(IDC_MX_SIDE_STEP_MODE));
 }
 
 void CMultiAxisPage::OnSelWriteNormal()
 {
-    Handle(At(controls, IDC_MX_WRITE_NORMAL));
+    Handle(At<MultiAxisTable>(IDC_MX_WRITE_NORMAL));
 }
 
 void CMultiAxisPage::OnSelSortType()
 {
-    Handle(At(controls, IDC_MX_SORT_TYPE));
+    Handle(At<MultiAxisTable>(IDC_MX_SORT_TYPE));
 }
 
 void CMultiAxisPage::OnRotaryOptions()

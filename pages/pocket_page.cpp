@@ -6,7 +6,7 @@ namespace pelmar {
 
 namespace {
 /// Either page's: what is handled here, both hold.
-constexpr auto& controls = FlatSurfaceTable::controls;
+using PocketTable = FlatSurfaceTable;
 } // namespace
 
 BEGIN_MESSAGE_MAP(CPocketPage, CRecordPage)
@@ -22,42 +22,42 @@ END_MESSAGE_MAP()
 
 void CPocketPage::OnKillFCornerAngle()
 {
-    Handle(At(controls, IDC_POCKET_CORNER_ANGLE));
+    Handle(At<PocketTable>(IDC_POCKET_CORNER_ANGLE));
 }
 
 void CPocketPage::OnKillFCornerClearance()
 {
-    Handle(At(controls, IDC_POCKET_CORNER_CLEARANCE));
+    Handle(At<PocketTable>(IDC_POCKET_CORNER_CLEARANCE));
 }
 
 void CPocketPage::OnSelCornerAngleType()
 {
-    Handle(At(controls, IDC_POCKET_CORNER_ANGLE_TYPE));
+    Handle(At<PocketTable>(IDC_POCKET_CORNER_ANGLE_TYPE));
 }
 
 void CPocketPage::OnSelCornerClearType()
 {
-    Handle(At(controls, IDC_POCKET_CORNER_CLEARANCE_TYPE));
+    Handle(At<PocketTable>(IDC_POCKET_CORNER_CLEARANCE_TYPE));
 }
 
 void CPocketPage::OnSelSideStepSize()
 {
-    Handle(At(controls, IDC_POCKET_SIDE_STEP_TYPE));
+    Handle(At<PocketTable>(IDC_POCKET_SIDE_STEP_TYPE));
 }
 
 void CPocketPage::OnSelFeedBetweenRate()
 {
-    Handle(At(controls, IDC_POCKET_FEED_BETWEEN_RATE));
+    Handle(At<PocketTable>(IDC_POCKET_FEED_BETWEEN_RATE));
 }
 
 void CPocketPage::OnSelMaterialCutMode()
 {
-    Handle(At(controls, IDC_POCKET_MATERIAL_CUT_MODE));
+    Handle(At<PocketTable>(IDC_POCKET_MATERIAL_CUT_MODE));
 }
 
 void CPocketPage::OnSelPocketCutMode()
 {
-    Handle(At(controls, IDC_POCKET_POCKET_CUT_MODE));
+    Handle(At<PocketTable>(IDC_POCKET_POCKET_CUT_MODE));
 }
 
 } // namespace pelmar

@@ -5,10 +5,6 @@
 
 using namespace pelmar;
 
-namespace {
-constexpr auto& controls = RoundMillTable::controls;
-} // namespace
-
 static_assert(int{CDefsRMPage::IDD} == IDD_ROUND_MILL);
 
 IMPLEMENT_DYNCREATE(CDefsRMPage, CExpRegenPropertyPage)
@@ -23,10 +19,10 @@ CDefsRMPage::CDefsRMPage() : CRoughFinishMillPage(IDD, new BindingOf<CRoundMillD
 
 void CDefsRMPage::OnKillFSideClearance()
 {
-    Handle(At(controls, IDC_RM_SIDE_CLEARANCE));
+    Handle(At<RoundMillTable>(IDC_RM_SIDE_CLEARANCE));
 }
 
 void CDefsRMPage::OnSelSideClearType()
 {
-    Handle(At(controls, IDC_RM_SIDE_CLEARANCE_TYPE));
+    Handle(At<RoundMillTable>(IDC_RM_SIDE_CLEARANCE_TYPE));
 }

@@ -7,7 +7,6 @@
 using namespace pelmar;
 
 namespace {
-constexpr auto& controls = WireEdmTable::controls;
 
 class EdmBinding : public BindingOf<CEDMOptionsInfo> {
 public:
@@ -29,7 +28,7 @@ private:
     const CDefsEDMPage& m_page;
 };
 
-CEDMOptionsInfo& In(PageBinding& binding)
+CEDMOptionsInfo& EdmOf(PageBinding& binding)
 {
     return static_cast<EdmBinding&>(binding).record;
 }
@@ -64,32 +63,32 @@ CDefsEDMPage::CDefsEDMPage() : CRecordPage(IDD, new EdmBinding(*this)) {}
 
 void CDefsEDMPage::OnKillFMaxFeedBetween()
 {
-    Handle(At(controls, IDC_EDM_MAX_FEED_BETWEEN));
+    Handle(At<WireEdmTable>(IDC_EDM_MAX_FEED_BETWEEN));
 }
 
 void CDefsEDMPage::OnKillFCornerAngle()
 {
-    Handle(At(controls, IDC_EDM_CORNER_ANGLE));
+    Handle(At<WireEdmTable>(IDC_EDM_CORNER_ANGLE));
 }
 
 void CDefsEDMPage::OnKillFCornerClearance()
 {
-    Handle(At(controls, IDC_EDM_CORNER_CLEARANCE));
+    Handle(At<WireEdmTable>(IDC_EDM_CORNER_CLEARANCE));
 }
 
 void CDefsEDMPage::OnKillFSideClearance()
 {
-    Handle(At(controls, IDC_EDM_SIDE_CLEARANCE));
+    Handle(At<WireEdmTable>(IDC_EDM_SIDE_CLEARANCE));
 }
 
 void CDefsEDMPage::OnKillFSideFinishStep()
 {
-    Handle(At(controls, IDC_EDM_SIDE_FINISH_STEP));
+    Handle(At<WireEdmTable>(IDC_EDM_SIDE_FINISH_STEP));
 }
 
 void CDefsEDMPage::OnKillFSharpCornerAngle()
 {
-    Handle(At(controls, IDC_EDM_SHARP_CORNER_ANGLE));
+    Handle(At<WireEdmTable>(IDC_EDM_SHARP_CORNER_ANGLE));
 }
 
 void CDefsEDMPage::OnKillFCurveTol()
@@ -97,58 +96,58 @@ void CDefsEDMPage::OnKillFCurveTol()
     // The tolerance shows in the hidden retract threshold, not in its own field: the next exchange stores it there too.
     if (!Binding().TakeLeftData(*this))
         return;
-    double shown = In(Binding()).CurveTolerance;
+    double shown = EdmOf(Binding()).CurveTolerance;
     ShowExpression(this, IDC_EDM_MAX_FEED_BETWEEN, &shown);
 }
 
 void CDefsEDMPage::OnSelFeedBetweenType()
 {
-    Handle(At(controls, IDC_EDM_FEED_BETWEEN_TYPE));
+    Handle(At<WireEdmTable>(IDC_EDM_FEED_BETWEEN_TYPE));
 }
 
 void CDefsEDMPage::OnSelCornerAngleType()
 {
-    Handle(At(controls, IDC_EDM_CORNER_ANGLE_TYPE));
+    Handle(At<WireEdmTable>(IDC_EDM_CORNER_ANGLE_TYPE));
 }
 
 void CDefsEDMPage::OnSelCornerClearType()
 {
-    Handle(At(controls, IDC_EDM_CORNER_CLEARANCE_TYPE));
+    Handle(At<WireEdmTable>(IDC_EDM_CORNER_CLEARANCE_TYPE));
 }
 
 void CDefsEDMPage::OnSelSideClearType()
 {
-    Handle(At(controls, IDC_EDM_SIDE_CLEARANCE_TYPE));
+    Handle(At<WireEdmTable>(IDC_EDM_SIDE_CLEARANCE_TYPE));
 }
 
 void CDefsEDMPage::OnSelSideFinishStepType()
 {
-    Handle(At(controls, IDC_EDM_SIDE_FINISH_STEP_TYPE));
+    Handle(At<WireEdmTable>(IDC_EDM_SIDE_FINISH_STEP_TYPE));
 }
 
 void CDefsEDMPage::OnSelGougeCheckType()
 {
-    Handle(At(controls, IDC_EDM_GOUGE_CHECK));
+    Handle(At<WireEdmTable>(IDC_EDM_GOUGE_CHECK));
 }
 
 void CDefsEDMPage::OnSelSortType()
 {
-    Handle(At(controls, IDC_EDM_SORT_TYPE));
+    Handle(At<WireEdmTable>(IDC_EDM_SORT_TYPE));
 }
 
 void CDefsEDMPage::OnSelTLGauge()
 {
-    Handle(At(controls, IDC_EDM_TOOL_LENGTH_GAUGE));
+    Handle(At<WireEdmTable>(IDC_EDM_TOOL_LENGTH_GAUGE));
 }
 
 void CDefsEDMPage::OnSelDispPlungeChanges()
 {
-    Handle(At(controls, IDC_EDM_DISPLAY_PLUNGE_CHANGES));
+    Handle(At<WireEdmTable>(IDC_EDM_DISPLAY_PLUNGE_CHANGES));
 }
 
 LRESULT CDefsEDMPage::OnToolLibGauge(WPARAM code, LPARAM parameter)
 {
-    return code == kToolLengthGauge && parameter == kAsksForToolLengthGauge ? In(Binding()).ToolLengthGauge : 0;
+    return code == kToolLengthGauge && parameter == kAsksForToolLengthGauge ? EdmOf(Binding()).ToolLengthGauge : 0;
 }
 
 void CDefsEDMPage::OnRestoreDefaults()

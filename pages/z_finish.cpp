@@ -5,10 +5,6 @@
 
 using namespace pelmar;
 
-namespace {
-constexpr auto& controls = ZFinishTable::controls;
-} // namespace
-
 static_assert(int{CDefsZFinishPage::IDD} == IDD_ZF);
 
 IMPLEMENT_DYNCREATE(CDefsZFinishPage, CExpRegenPropertyPage)
@@ -33,35 +29,35 @@ void CDefsZFinishPage::OnChangeOptionInfo()
 
 void CDefsZFinishPage::OnKillFDepthFinishStep()
 {
-    Handle(At(controls, IDC_ZF_DEPTH_FINISH_STEP));
+    Handle(At<ZFinishTable>(IDC_ZF_DEPTH_FINISH_STEP));
 }
 
 void CDefsZFinishPage::OnKillFSideClearance()
 {
-    Handle(At(controls, IDC_ZF_SIDE_CLEARANCE));
+    Handle(At<ZFinishTable>(IDC_ZF_SIDE_CLEARANCE));
 }
 
 void CDefsZFinishPage::OnSelDepthStepSize()
 {
-    Handle(At(controls, IDC_ZF_DEPTH_FINISH_STEP_TYPE));
+    Handle(At<ZFinishTable>(IDC_ZF_DEPTH_FINISH_STEP_TYPE));
 }
 
 void CDefsZFinishPage::OnSelSideClearType()
 {
-    Handle(At(controls, IDC_ZF_SIDE_CLEARANCE_TYPE));
+    Handle(At<ZFinishTable>(IDC_ZF_SIDE_CLEARANCE_TYPE));
 }
 
 void CDefsZFinishPage::OnSelGougeCheck()
 {
-    Handle(At(controls, IDC_ZF_GOUGE_CHECK));
+    Handle(At<ZFinishTable>(IDC_ZF_GOUGE_CHECK));
 }
 
 void CDefsZFinishPage::OnSelPlungeSelType()
 {
-    Handle(At(controls, IDC_ZF_PLUNGE_POINT));
+    Handle(At<ZFinishTable>(IDC_ZF_PLUNGE_POINT));
 }
 
 void CDefsZFinishPage::OnSelPlungeWarnings()
 {
-    Handle(At(controls, IDC_ZF_PLUNGE_WARNINGS));
+    Handle(At<ZFinishTable>(IDC_ZF_PLUNGE_WARNINGS));
 }

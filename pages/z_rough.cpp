@@ -5,10 +5,6 @@
 
 using namespace pelmar;
 
-namespace {
-constexpr auto& controls = ZRoughTable::controls;
-} // namespace
-
 static_assert(int{CDefsZRoughPage::IDD} == IDD_ZR);
 
 IMPLEMENT_DYNCREATE(CDefsZRoughPage, CExpRegenPropertyPage)
@@ -42,55 +38,55 @@ void CDefsZRoughPage::OnChangeZROptions()
 
 void CDefsZRoughPage::OnKillFSideRoughStep()
 {
-    Handle(At(controls, IDC_POCKET_SIDE_STEP));
+    Handle(At<ZRoughTable>(IDC_POCKET_SIDE_STEP));
 }
 
 void CDefsZRoughPage::OnKillFDepthRoughStep()
 {
-    Handle(At(controls, IDC_ZR_DEPTH_ROUGH_STEP));
+    Handle(At<ZRoughTable>(IDC_ZR_DEPTH_ROUGH_STEP));
 }
 
 void CDefsZRoughPage::OnKillFSideClearance()
 {
-    Handle(At(controls, IDC_ZR_SIDE_CLEARANCE));
+    Handle(At<ZRoughTable>(IDC_ZR_SIDE_CLEARANCE));
 }
 
 void CDefsZRoughPage::OnSelDepthStepSize()
 {
-    Handle(At(controls, IDC_ZR_DEPTH_ROUGH_STEP_TYPE));
+    Handle(At<ZRoughTable>(IDC_ZR_DEPTH_ROUGH_STEP_TYPE));
 }
 
 void CDefsZRoughPage::OnSelCutterCompTop()
 {
-    Handle(At(controls, IDC_ZR_CUTTER_COMP_TOP));
+    Handle(At<ZRoughTable>(IDC_ZR_CUTTER_COMP_TOP));
 }
 
 void CDefsZRoughPage::OnSelDepthFirst()
 {
-    Handle(At(controls, IDC_ZR_DEPTH_FIRST));
+    Handle(At<ZRoughTable>(IDC_ZR_DEPTH_FIRST));
 }
 
 void CDefsZRoughPage::OnSelPlungeWarnings()
 {
-    Handle(At(controls, IDC_ZR_PLUNGE_WARNINGS));
+    Handle(At<ZRoughTable>(IDC_ZR_PLUNGE_WARNINGS));
 }
 
 void CDefsZRoughPage::OnSelSideClearType()
 {
-    Handle(At(controls, IDC_ZR_SIDE_CLEARANCE_TYPE));
+    Handle(At<ZRoughTable>(IDC_ZR_SIDE_CLEARANCE_TYPE));
 }
 
 void CDefsZRoughPage::OnSelIslandPlunges()
 {
-    Handle(At(controls, IDC_ZR_ISLAND_PLUNGES));
+    Handle(At<ZRoughTable>(IDC_ZR_ISLAND_PLUNGES));
 }
 
 void CDefsZRoughPage::OnSelGougeCheck()
 {
-    Handle(At(controls, IDC_ZR_GOUGE_CHECK));
+    Handle(At<ZRoughTable>(IDC_ZR_GOUGE_CHECK));
 }
 
 void CDefsZRoughPage::OnSelAlignPlunges()
 {
-    Handle(At(controls, IDC_ZR_ALIGN_PLUNGES));
+    Handle(At<ZRoughTable>(IDC_ZR_ALIGN_PLUNGES));
 }

@@ -5,4 +5,4 @@
 
 using namespace pelmar;
 
-constexpr ControlRow kRow = At(ZFinishTable::controls, IDC_2X_SORT_TYPE);
+constexpr ControlRow kRow = At<ZFinishTable>(IDC_2X_SORT_TYPE);

@@ -21,6 +21,8 @@ template <> struct pelmar::RecordFacts<Record> {
     static constexpr RecordTable table{"Section", "Операция", options};
 };
 
-constexpr Control kControls[] = {Edit<&Record::Step>(1000), List<&Record::Way>(1001)};
-constexpr ControlRow kRow = At(kControls, 1001);
+struct Table {
+    static constexpr Control controls[] = {Edit<&Record::Step>(1000), List<&Record::Way>(1001)};
+};
+constexpr ControlRow kRow = At<Table>(1001);
 static_assert(kRow.Id() == 1001);
