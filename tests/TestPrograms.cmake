@@ -8,11 +8,11 @@ if(PELMAR_TEST_PROGRAMS)
     endif()
 endif()
 
-# add_test_program(NAME SOURCES source... LIBRARIES target... [INCLUDES folder...] [PRECOMPILED target|header...]
-# [NEEDS target...]): a program of tests, with precompiled headers, its own or those of another target. It loads what it
-# needs, and is not linked to that.
+# add_test_program(NAME [TOGETHER] SOURCES source... LIBRARIES target... [INCLUDES folder...]
+# [PRECOMPILED target|header...] [NEEDS target...]): a program of tests, with precompiled headers, its own or those of
+# another target. It loads what it needs, and is not linked to that. TOGETHER, its sources are compiled as one.
 function(add_test_program name)
-    cmake_parse_arguments(this "" "" "PRECOMPILED;SOURCES;INCLUDES;LIBRARIES;NEEDS" ${ARGN})
+    cmake_parse_arguments(this "TOGETHER" "" "PRECOMPILED;SOURCES;INCLUDES;LIBRARIES;NEEDS" ${ARGN})
     if(PELMAR_TEST_PROGRAMS)
         add_executable(${name} IMPORTED GLOBAL)
         set_target_properties(${name} PROPERTIES
@@ -21,6 +21,9 @@ function(add_test_program name)
         return()
     endif()
     add_executable(${name} ${this_SOURCES})
+    if(this_TOGETHER)
+        set_target_properties(${name} PROPERTIES UNITY_BUILD ON)
+    endif()
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${this_INCLUDES})
     target_link_libraries(${name} PRIVATE ${this_LIBRARIES} project_options)
     if(TARGET "${this_PRECOMPILED}")
