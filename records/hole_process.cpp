@@ -8,10 +8,10 @@
 using namespace pelmar;
 
 namespace {
-using Facts = RecordFacts<HoleProcessDefsInfo>;
+using HoleFacts = RecordFacts<HoleProcessDefsInfo>;
 } // namespace
 
-RecordKind<HoleProcessDefsInfo>& Facts::Kind()
+RecordKind<HoleProcessDefsInfo>& HoleFacts::Kind()
 {
     static RecordKind<HoleProcessDefsInfo> kind(&HoleProcessDefsInfo::Defaults);
     return kind;
@@ -21,27 +21,27 @@ void HoleProcessDefsInfo::Defaults()
 {
     HoleProcessDefsInfo builtIn;
     builtIn.StartupTemplate = StartupTemplate;
-    Facts::Kind().Defaults(*this, builtIn, ReadDefaultWhole(Facts::unitsOfDefaultsSection, "Units", Units));
+    HoleFacts::Kind().Defaults(*this, builtIn, ReadDefaultWhole(HoleFacts::unitsOfDefaultsSection, "Units", Units));
 }
 
 void HoleProcessDefsInfo::HoleProcessDefs_Save()
 {
-    Facts::table.Save(this);
+    HoleFacts::table.Save(this);
     // The system-wide profile knows the template whatever settings file is in use.
-    WriteSystemText(Facts::table.Section(), Facts::templateKey, StartupTemplate);
+    WriteSystemText(HoleFacts::table.Section(), HoleFacts::templateKey, StartupTemplate);
 }
 
 void HoleProcessDefsInfo::HoleProcessDefs_Restore()
 {
     const SettingsReading reading;
     // Not what was saved, which is in the system-wide profile: a settings file names a template of its own or none.
-    StartupTemplate = ReadText(Facts::table.Section(), Facts::templateKey).c_str();
-    Facts::table.Restore(this);
+    StartupTemplate = ReadText(HoleFacts::table.Section(), HoleFacts::templateKey).c_str();
+    HoleFacts::table.Restore(this);
 }
 
 void HoleProcessDefsInfo::HoleProcessDefsCheckUnits(long units)
 {
-    Facts::table.Convert(this, units);
+    HoleFacts::table.Convert(this, units);
 }
 
 void HoleProcessDefsInfo::Sync()
@@ -54,5 +54,5 @@ void HoleProcessDefsInfo::Sync()
 
 HoleProcessDefsInfo* GetLastHoleProcessDefsInfo()
 {
-    return Facts::Kind().Live();
+    return HoleFacts::Kind().Live();
 }
