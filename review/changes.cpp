@@ -32,12 +32,7 @@ Entered Refused(std::string reason)
 std::string Quoted(std::string_view text)
 {
     constexpr std::size_t kLongestQuoted = 80;
-    if (text.size() <= kLongestQuoted)
-        return "«" + std::string(text) + "»";
-    std::size_t end = kLongestQuoted;
-    while ((static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
-        --end; // not within a letter
-    return "«" + std::string(text.substr(0, end)) + "…»";
+    return "«" + Shortened(text, kLongestQuoted) + "»";
 }
 
 std::string Items(const Setting& setting, const Words& words)

@@ -51,12 +51,7 @@ std::string Presentable(std::string text)
     for (char& letter : text)
         if (static_cast<unsigned char>(letter) < ' ')
             letter = ' ';
-    if (text.size() <= kLongestShown)
-        return text;
-    std::size_t end = kLongestShown;
-    while ((static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
-        --end; // not within a letter
-    return text.substr(0, end) + "…";
+    return Shortened(text, kLongestShown);
 }
 
 /// What the file holds of a value is no longer of interest once the value is another one.

@@ -1112,6 +1112,16 @@ TEST_F(SettingsReview, ItsLayoutHasRoomForOperationsAndForMostNames)
     EXPECT_GT(names, count * 2 / 3);
 }
 
+/// On a scaled display too: the list is moved sideways to see all of them.
+TEST_F(SettingsReview, ItsLayoutLeavesTheFindingsNearlyTwiceTheWidthOfOperationsInTheNarrowestWindow)
+{
+    Keep("Width", "1");
+    Keep("Height", "1");
+    const OpenReview review(dialog);
+    const int operations = ListView_GetColumnWidth(review.list, Operation);
+    EXPECT_GE(ListView_GetColumnWidth(review.list, Finding), operations * 19 / 10);
+}
+
 TEST_F(SettingsReview, TheTabKeyGoesThroughTheControlsAsOneReads)
 {
     OpenReview review(dialog);

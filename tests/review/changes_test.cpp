@@ -36,6 +36,25 @@ TEST(Enter, AnExpressionIsWorkedOut)
     EXPECT_DOUBLE_EQ(entered.number, 0.145);
 }
 
+TEST(Enter, ALongTextIsQuotedUpToAWholeLetter)
+{
+    std::string ways = "x";
+    for (int count = 0; count < 39; ++count)
+        ways += "ж";
+    const std::string refusal = Refusal(At("Options2x", "CornerAngleType"), ways + "жжж");
+    EXPECT_NE(refusal.find("«" + ways + "…»"), std::string::npos) << refusal;
+}
+
+TEST(Shortened, KeepsWhatFitsAndNothingOfALetterThatDoesNot)
+{
+    EXPECT_EQ(Shortened("abc", 3), "abc");
+    EXPECT_EQ(Shortened("abcd", 3), "abc…");
+    EXPECT_EQ(Shortened("жж", 3), "ж…");
+    EXPECT_EQ(Shortened("ж", 1), "…");
+    EXPECT_EQ(Shortened("\x80\x80\x80", 2), "…"); // no letter begins here
+    EXPECT_EQ(Shortened("", 0), "");
+}
+
 TEST(Enter, WhatFailsIsRefusedWithTheReason)
 {
     const Setting& angle = At("Options2x", "CornerAngle");
