@@ -15,15 +15,6 @@ CString Wide(UINT codePage, std::string_view text)
     return wide;
 }
 
-std::string Narrow(UINT codePage, const CString& text, DWORD flags = 0, BOOL* hasOthers = nullptr)
-{
-    const int length = text.GetLength();
-    const int size = WideCharToMultiByte(codePage, flags, text, length, nullptr, 0, nullptr, nullptr);
-    std::string narrow(static_cast<std::size_t>(size), '\0');
-    WideCharToMultiByte(codePage, flags, text, length, narrow.data(), size, nullptr, hasOthers);
-    return narrow;
-}
-
 std::string TextOfString(unsigned id)
 {
     return Utf8Text(LoadText(id));
@@ -34,20 +25,9 @@ std::string TextOfFile(std::string_view bytes)
     return Utf8Text(Wide(CP_ACP, bytes));
 }
 
-bool ToFile(std::string_view text, std::string& bytes)
-{
-    if (GetACP() == CP_UTF8) {
-        bytes = text; // there every letter has its place
-        return true;
-    }
-    BOOL hasOthers = FALSE;
-    bytes = Narrow(CP_ACP, WideText(text), WC_NO_BEST_FIT_CHARS, &hasOthers);
-    return !hasOthers;
-}
-
 } // namespace
 
-const review::Words kLibraryWords{.ofString = TextOfString, .ofFile = TextOfFile, .toFile = ToFile};
+const review::Words kLibraryWords{.ofString = TextOfString, .ofFile = TextOfFile};
 
 CString WideText(std::string_view utf8)
 {
@@ -56,7 +36,11 @@ CString WideText(std::string_view utf8)
 
 std::string Utf8Text(const CString& text)
 {
-    return Narrow(CP_UTF8, text);
+    const int length = text.GetLength();
+    const int size = WideCharToMultiByte(CP_UTF8, 0, text, length, nullptr, 0, nullptr, nullptr);
+    std::string utf8(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text, length, utf8.data(), size, nullptr, nullptr);
+    return utf8;
 }
 
 } // namespace pelmar

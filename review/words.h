@@ -11,7 +11,7 @@ namespace pelmar::review {
 struct Words {
     std::string (*ofString)(unsigned id) = nullptr;          ///< a text of the string table
     std::string (*ofFile)(std::string_view bytes) = nullptr; ///< a text of a settings file, in its code page
-    /// A text for a settings file. False where its code page lacks a letter.
+    /// A text for a settings file; null where none are entered. False where its code page lacks a letter.
     bool (*toFile)(std::string_view text, std::string& bytes) = nullptr;
 };
 

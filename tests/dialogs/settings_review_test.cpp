@@ -471,6 +471,24 @@ TEST_F(SettingsReview, GoingWithoutTheChangesForgetsThem)
     EXPECT_EQ(kCornerAngle, dialog.Destination().controlId);
 }
 
+TEST_F(SettingsReview, AHostThatCouldNotSaveKeepsItOpenAndGoesNowhere)
+{
+    class CRefusingReview : public CSettingsReviewDlg {
+        void OnOK() override {}
+    };
+    CRefusingReview refusing;
+    OpenReview review(refusing);
+    review.Select(k2Axis, kAngle);
+    review.Enter(L"75");
+    review.PressButton(kGoTo);
+    ui::Answer(ui::WaitForBox(), IDYES);
+    ui::Settle(review.window);
+    EXPECT_TRUE(review.IsOpen());
+    review.End(IDCANCEL);
+    EXPECT_EQ(0, refusing.Destination().templateId);
+    EXPECT_NE(75, GetLast2xOptions()->CornerAngle);
+}
+
 // ---- editing ----
 
 TEST_F(SettingsReview, F2EditsAValueAndOkPutsItIntoTheLiveRecord)
@@ -509,6 +527,44 @@ TEST_F(SettingsReview, TheEditShowsTheValueWithoutItsUnitAndSelectsIt)
     rect = AreaOf(edit);
     MapWindowPoints(nullptr, review.list, reinterpret_cast<POINT*>(&rect), 2);
     EXPECT_TRUE(EqualRect(&cell, &rect));
+}
+
+TEST_F(SettingsReview, TheEditGoesWithTheListThatIsScrolled)
+{
+    OpenReview review(dialog);
+    review.Select(k2Axis, kAngle);
+    const HWND edit = review.BeginEdit(L"45");
+    const RECT before = AreaOf(edit);
+    SendMessage(review.list, WM_VSCROLL, SB_LINEDOWN, 0);
+    NMLVSCROLL scrolled{}; // as Windows' list tells it; Wine's tells nothing
+    scrolled.hdr = {review.list, kList, LVN_ENDSCROLL};
+    SendMessage(review.window, WM_NOTIFY, kList, reinterpret_cast<LPARAM>(&scrolled));
+    ui::Settle(review.window);
+    RECT cell;
+    ListView_GetSubItemRect(review.list, review.RowOf(k2Axis, kAngle), Value, LVIR_BOUNDS, &cell);
+    MapWindowPoints(review.list, nullptr, reinterpret_cast<POINT*>(&cell), 2);
+    const RECT after = AreaOf(edit);
+    EXPECT_TRUE(EqualRect(&cell, &after));
+    EXPECT_LT(after.top, before.top);
+    EXPECT_EQ(L"45", ui::TextOf(edit));
+}
+
+TEST_F(SettingsReview, AListOfWideColumnsIsMovedToTheValueThatIsEdited)
+{
+    Keep("Columns", "1500,1500,120,120,290");
+    OpenReview review(dialog);
+    review.Select(k2Axis, kAngle);
+    RECT list;
+    GetClientRect(review.list, &list);
+    RECT cell;
+    ListView_GetSubItemRect(review.list, review.RowOf(k2Axis, kAngle), Value, LVIR_BOUNDS, &cell);
+    ASSERT_GT(cell.left, list.right);
+    RECT edit = AreaOf(review.BeginEdit(L"45"));
+    MapWindowPoints(nullptr, review.list, reinterpret_cast<POINT*>(&edit), 2);
+    EXPECT_GE(edit.left, 0);
+    EXPECT_LE(edit.right, list.right);
+    ListView_GetSubItemRect(review.list, review.RowOf(k2Axis, kAngle), Value, LVIR_BOUNDS, &cell);
+    EXPECT_TRUE(EqualRect(&cell, &edit));
 }
 
 TEST_F(SettingsReview, ARefusedTextIsToldAndEditingGoesOn)
@@ -633,6 +689,45 @@ TEST_F(SettingsReview, TakingGivesTheSelectedRowsTheComparedValuesAndLengthsThei
     EXPECT_EQ(C2AxisOptionsInfo().CornerAngle, GetLast2xOptions()->CornerAngle);
 }
 
+TEST_F(SettingsReview, ComparedValuesThatThePageWouldRefuseAreToldAndNotTaken)
+{
+    const std::string other = host.folder + "\\OTHER.INI";
+    WriteFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=500\r\nRapidPlane=3\r\n");
+    OpenReview review(dialog);
+    review.PressButton(kPickFile);
+    ui::ChooseFile(ui::WaitForFileDialog(), Wide(other));
+    ASSERT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"500°"; }));
+    const std::wstring before = review.Shown(k2Axis, kAngle);
+    review.Select(k2Axis, kAngle);
+    review.Add(review.RowOf(k2Axis, L"Плоскость безопасности"));
+    review.PressButton(kTake);
+    const ui::MessageBoxSeen box = ui::WaitForBox();
+    EXPECT_NE(std::wstring::npos, box.text.find(kAngle)) << testing::PrintToString(box.text);
+    EXPECT_NE(std::wstring::npos, box.text.find(L"500")) << testing::PrintToString(box.text);
+    ui::Answer(box, IDOK);
+    EXPECT_EQ(before, review.Shown(k2Axis, kAngle));
+    EXPECT_EQ(L"3 дюйм", review.Shown(k2Axis, L"Плоскость безопасности"));
+}
+
+TEST_F(SettingsReview, OfManyRefusedValuesTheFirstFiveAreTold)
+{
+    const std::string other = host.folder + "\\OTHER.INI";
+    WriteFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=500\r\nCornerAngleType=50\r\nSideRoughStepType=50\r\n"
+                     "DepthRoughStepType=50\r\nFinishCutOn=50\r\nGougeCheck=50\r\nSortType=50\r\n");
+    OpenReview review(dialog);
+    review.PressButton(kPickFile);
+    ui::ChooseFile(ui::WaitForFileDialog(), Wide(other));
+    ASSERT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"500°"; }));
+    ui::FocusOn(review.window, kList);
+    ListView_SetItemState(review.list, -1, LVIS_SELECTED, LVIS_SELECTED);
+    ui::Settle(review.window);
+    review.PressButton(kTake);
+    const ui::MessageBoxSeen box = ui::WaitForBox();
+    EXPECT_TRUE(box.text.ends_with(L"\n…")) << testing::PrintToString(box.text);
+    EXPECT_EQ(7, std::ranges::count(box.text, L'\n')) << testing::PrintToString(box.text);
+    ui::Answer(box, IDOK);
+}
+
 TEST_F(SettingsReview, CtrlAAndCtrlCCopyTheRowsAsText)
 {
     OpenReview review(dialog);
@@ -653,6 +748,20 @@ TEST_F(SettingsReview, CtrlAAndCtrlCCopyTheRowsAsText)
     review.Select(1);
     review.PressButton(kCopy);
     EXPECT_EQ(expected.substr(expected.find(L'\n') + 1), Clipboard());
+}
+
+TEST_F(SettingsReview, AClipboardThatAnotherProgramKeepsIsTold)
+{
+    OpenReview review(dialog);
+    review.Select(k2Axis, kAngle);
+    ASSERT_TRUE(OpenClipboard(nullptr)); // this thread is another program for the one with the windows
+    review.PressButton(kCopy);
+    const ui::MessageBoxSeen box = ui::WaitForBox();
+    CloseClipboard();
+    EXPECT_EQ(L"Буфер обмена занят другой программой. Повторите ещё раз.", box.text);
+    ui::Answer(box, IDOK);
+    review.PressButton(kCopy);
+    EXPECT_NE(std::wstring::npos, Clipboard().find(kAngle));
 }
 
 // ---- comparing with a file ----
@@ -897,6 +1006,12 @@ TEST_F(SettingsReview, OkChangesWhatWasEditedAndNothingElse)
     ui::UiThread::Get().Call([] { GetLast2xOptions()->vOptions_Save(); });
     EXPECT_EQ("75.000000", ::Value(host.settings, "Options2x", "CornerAngle"));
     EXPECT_EQ("1.123456", ::Value(host.settings, "Options2x", "RapidPlane"));
+}
+
+TEST_F(SettingsReview, CanBeCreatedDynamically)
+{
+    EXPECT_EQ(CDialog::GetThisClass(), CSettingsReviewDlg::GetThisClass()->m_pfnGetBaseClass());
+    ui::UiThread::Get().Call([] { delete CSettingsReviewDlg::GetThisClass()->CreateObject(); });
 }
 
 TEST_F(SettingsReview, OneObjectCanBeShownAgain)

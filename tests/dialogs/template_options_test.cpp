@@ -1163,6 +1163,26 @@ TEST_F(Templates, TheQuestionMarkOfTheCaptionStartsContextHelp)
     ui::UiThread::Get().Call([] { AfxGetApp()->m_bHelpMode = FALSE; });
 }
 
+TEST_F(Templates, ADialogOfTheHostsOwnStartsContextHelpItself)
+{
+    class CHostsDialog : public CNCDialog {
+    public:
+        CHostsDialog() : CNCDialog(0, nullptr) {}
+        using CNCDialog::WatchForContextHelp;
+    };
+    const auto startsWith = [](UINT message, WPARAM wParam) {
+        return ui::On([=] {
+            AfxGetApp()->m_bHelpMode = FALSE;
+            CHostsDialog::WatchForContextHelp(message, wParam);
+            return std::exchange(AfxGetApp()->m_bHelpMode, FALSE) != FALSE;
+        });
+    };
+    EXPECT_TRUE(startsWith(WM_SYSCOMMAND, SC_CONTEXTHELP));
+    EXPECT_TRUE(startsWith(WM_SYSCOMMAND, SC_CONTEXTHELP | 3)); // the system keeps the low bits for itself
+    EXPECT_FALSE(startsWith(WM_SYSCOMMAND, SC_CLOSE));
+    EXPECT_FALSE(startsWith(WM_COMMAND, SC_CONTEXTHELP));
+}
+
 // ---- the host's own library ----
 
 /// The real library, which nobody keeps loaded.

@@ -427,6 +427,24 @@ TEST_F(ExpressionEdits, ShowTheLargestNumberInFull)
     EXPECT_EQ(shown.substr(1), TypedWithEquals(IDC_REAL, L"1.7976931348623157e308"));
 }
 
+TEST_F(ExpressionEdits, AcceptWhatNobodyTouchedThoughItIsLongerThanAFieldTakes)
+{
+    m_dialog.m_real = 1e300;
+    Open();
+    ASSERT_GT(Text(IDC_REAL).size(), 255U);
+    ExpectAccepted();
+    EXPECT_EQ(1e300, m_dialog.m_real);
+}
+
+TEST_F(ExpressionEdits, RefuseWhatIsLongerThanAFieldTakesOnceItHasBeenTouched)
+{
+    m_dialog.m_real = 1e300;
+    Open();
+    Put(IDC_REAL, L"2" + Text(IDC_REAL).substr(1));
+    ExpectNotANumber(IDC_REAL);
+    EXPECT_EQ(1e300, m_dialog.m_real);
+}
+
 TEST_F(ExpressionEdits, FollowTheSettingAtOnce)
 {
     Open();

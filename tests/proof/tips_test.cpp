@@ -206,7 +206,9 @@ TEST_P(TipsOfPage, DoNotComeOnceTheHostHasSwitchedThemOff)
     const ShownPage shown(GetParam(), kInch);
     const int id = shown.Options().front()->id;
     TipOn(shown.window, id);
+    EXPECT_TRUE(ui::On([] { return AreTipsShown(); }));
     ui::UiThread::Get().Call([] { ShowTips(false); });
+    EXPECT_FALSE(ui::On([] { return AreTipsShown(); }));
     for (const Control* control : shown.Options())
         EXPECT_FALSE(ComesATip(shown.window, control->id)) << control->id;
     ui::UiThread::Get().Call([] { ShowTips(true); });
@@ -369,6 +371,18 @@ TEST_F(Tips2x, StandBesideTheControlWithItsDrawing)
     EXPECT_LT(plain.bottom - plain.top + 200, drawn.bottom - drawn.top);
     RECT shared;
     EXPECT_FALSE(IntersectRect(&shared, &drawn, &field));
+    MoveAway(window);
+}
+
+TEST_F(Tips2x, LeaveThePointerToWhatTheyCover)
+{
+    Open(kInch);
+    const HWND window = sheet->Page();
+    RECT place{};
+    ASSERT_TRUE(
+        ui::WaitUntil([&] { return RestOn(window, IDC_2X_SIDE_ROUGH_STEP) && GetWindowRect(OpenTip(), &place); }));
+    const LPARAM within = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+    EXPECT_EQ(HTTRANSPARENT, SendMessage(OpenTip(), WM_NCHITTEST, 0, within));
     MoveAway(window);
 }
 
