@@ -57,6 +57,11 @@ private:
     }
 };
 
+std::wstring Wide(const std::string& path)
+{
+    return CString(path.c_str()).GetString();
+}
+
 /// The review as a user has it before him.
 class OpenReview : public OpenModal {
 public:
@@ -137,6 +142,12 @@ public:
     }
     void Press(WPARAM key) { ui::Press(list, key); }
     void PressButton(int id) { OpenModal::Press(id); }
+    /// Chooses a file to compare with; a bare name is in the folder that the chooser comes up in.
+    void PickFile(const std::string& path)
+    {
+        PressButton(kPickFile);
+        ui::ChooseFile(ui::WaitForFileDialog(), Wide(path));
+    }
 
     /// The edit over the value; null while nothing is edited.
     HWND EditInList() const { return GetDlgItem(list, kCell); }
@@ -218,11 +229,6 @@ RECT AreaOf(HWND window)
     RECT rect;
     GetWindowRect(window, &rect);
     return rect;
-}
-
-std::wstring Wide(const std::string& path)
-{
-    return CString(path.c_str()).GetString();
 }
 
 constexpr wchar_t k2Axis[] = L"2-осевая";
@@ -694,8 +700,7 @@ TEST_F(SettingsReview, ComparedValuesThatThePageWouldRefuseAreToldAndNotTaken)
     const std::string other = host.folder + "\\OTHER.INI";
     WriteFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=500\r\nRapidPlane=3\r\n");
     OpenReview review(dialog);
-    review.PressButton(kPickFile);
-    ui::ChooseFile(ui::WaitForFileDialog(), Wide(other));
+    review.PickFile(other);
     ASSERT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"500°"; }));
     const std::wstring before = review.Shown(k2Axis, kAngle);
     review.Select(k2Axis, kAngle);
@@ -715,8 +720,7 @@ TEST_F(SettingsReview, OfManyRefusedValuesTheFirstFiveAreTold)
     WriteFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=500\r\nCornerAngleType=50\r\nSideRoughStepType=50\r\n"
                      "DepthRoughStepType=50\r\nFinishCutOn=50\r\nGougeCheck=50\r\nSortType=50\r\n");
     OpenReview review(dialog);
-    review.PressButton(kPickFile);
-    ui::ChooseFile(ui::WaitForFileDialog(), Wide(other));
+    review.PickFile(other);
     ASSERT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"500°"; }));
     ui::FocusOn(review.window, kList);
     ListView_SetItemState(review.list, -1, LVIS_SELECTED, LVIS_SELECTED);
@@ -771,8 +775,7 @@ TEST_F(SettingsReview, AnotherFileIsComparedInTheUnitsOfTheRecord)
     const std::string other = host.folder + "\\OTHER.INI";
     WriteFile(other, "[Options2x]\r\nUnits=1\r\nRapidPlane=100\r\nCornerAngle=75\r\n");
     OpenReview review(dialog);
-    review.PressButton(kPickFile);
-    ui::ChooseFile(ui::WaitForFileDialog(), Wide(other));
+    review.PickFile(other);
     ASSERT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"75°"; }));
     EXPECT_EQ(L"4 дюйм", review.Shown(k2Axis, L"Плоскость безопасности", Compared));
     EXPECT_NE(std::wstring::npos, ui::TextOf(review.window, kCompared).find(L"OTHER.INI"));
@@ -788,8 +791,7 @@ TEST_F(SettingsReview, AFileToCompareWithIsLookedForBesideTheSettings)
     const std::string folder = host.settings.substr(0, host.settings.rfind('\\') + 1);
     WriteFile(folder + "BESIDE.INI", "[Options2x]\r\nUnits=0\r\nCornerAngle=75\r\n");
     OpenReview review(dialog);
-    review.PressButton(kPickFile);
-    ui::ChooseFile(ui::WaitForFileDialog(), L"BESIDE.INI");
+    review.PickFile("BESIDE.INI");
     EXPECT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"75°"; }));
 }
 
@@ -811,8 +813,7 @@ TEST_F(SettingsReview, AFileThatCannotBeComparedIsToldWithTheReason)
     for (const auto& file : files) {
         const std::string path = host.folder + "\\" + file.name;
         WriteFile(path, file.bytes);
-        review.PressButton(kPickFile);
-        ui::ChooseFile(ui::WaitForFileDialog(), Wide(path));
+        review.PickFile(path);
         const ui::MessageBoxSeen box = ui::WaitForBox();
         EXPECT_NE(std::wstring::npos, box.text.find(file.reason)) << file.name;
         EXPECT_NE(std::wstring::npos, box.text.find(Wide(file.name))) << file.name;
@@ -828,8 +829,7 @@ TEST_F(SettingsReview, AComparedFileThatIsGoneGivesWayToTheFactoryValues)
     WriteFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=75\r\n");
     OpenReview review(dialog);
     const std::wstring before = review.Shown(k2Axis, kAngle, Compared);
-    review.PressButton(kPickFile);
-    ui::ChooseFile(ui::WaitForFileDialog(), Wide(other));
+    review.PickFile(other);
     ASSERT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"75°"; }));
     ASSERT_TRUE(DeleteFileA(other.c_str()));
     review.Press(VK_F5);
