@@ -436,6 +436,21 @@ TEST_F(LeavingTheSideClearance, AsksWhereTheFocusComesToRestOnAButtonOrTab)
     TypeInto(Edit(sheet), L"1");
 }
 
+TEST_F(LeavingTheSideClearance, AsksOnceAButtonThatIsHeldDownIsLetGoBesideIt)
+{
+    OpenSheet sheet({&page, &spy});
+    TypeInto(Edit(sheet), L"abc");
+    const HWND button = Button(sheet.window, IDOK);
+    PostMessage(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    constexpr DWORD kLongerThanAFocusRests = 300;
+    Sleep(kLongerThanAFocusRests);
+    EXPECT_TRUE(IsOpenAndSilent(sheet.window));
+    EXPECT_EQ(button, ui::Focus(sheet.window));
+    PostMessage(button, WM_LBUTTONUP, 0, MAKELPARAM(-50, -50));
+    ExpectOnePrompt(Edit(sheet), L"abc");
+    sheet.Cancel();
+}
+
 TEST_F(LeavingTheSideClearance, AsksNothingWhereTheFocusComesToRestOnCancelOrDefaults)
 {
     OpenSheet sheet({&page, &spy});
