@@ -436,6 +436,20 @@ TEST_F(LeavingTheSideClearance, AsksWhereTheFocusComesToRestOnAButtonOrTab)
     TypeInto(Edit(sheet), L"1");
 }
 
+TEST_F(LeavingTheSideClearance, MindsNoBlanksBehindAWholeNumber)
+{
+    constexpr int kLeadAngle = 3913;
+    OpenSheet sheet({&page, &spy});
+    for (const wchar_t* const whole : {L"7 ", L"7 x"}) {
+        SetWindowText(ui::Control(sheet.Page(), kLeadAngle), whole);
+        TypeInto(Edit(sheet), L"1/4");
+        GoTo(Button(sheet.window, IDOK));
+        EXPECT_EQ(whole[2] ? L"1/4" : L"0.2500", ui::TextOf(Edit(sheet))) << CStringA(whole);
+        ui::DismissBoxes();
+    }
+    sheet.Cancel();
+}
+
 TEST_F(LeavingTheSideClearance, AsksOnceAButtonThatIsHeldDownIsLetGoBesideIt)
 {
     OpenSheet sheet({&page, &spy});
