@@ -463,20 +463,6 @@ TEST_F(SetupSheetDialog, ValuesOutOfRangeAreRefusedAndTheBoundsAccepted)
     }
 }
 
-TEST_F(SetupSheetDialog, CancelTakesNothingAndAsksNothing)
-{
-    constexpr DWORD kLongerThanAFocusRests = 300;
-    Shown shown;
-    ui::Type(shown, kRapidRate, L"1/0");
-    PostMessage(shown, WM_COMMAND, IDCANCEL, 0);
-    ui::Settle(shown);
-    Sleep(kLongerThanAFocusRests);
-    ui::Settle(shown);
-    EXPECT_FALSE(ui::IsBoxOpen());
-    EXPECT_FALSE(IsWindowVisible(shown));
-    ExpectSame(Record(), *GetLastSSheetOptions());
-}
-
 TEST_F(SetupSheetDialog, TextsThatAreNoNumbersAreRefused)
 {
     for (const wchar_t* text : {L"", L"abc", L"1/0", L"1.0e309", L"("})

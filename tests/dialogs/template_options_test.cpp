@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <limits>
 #include <memory>
+#include <utility>
 
 #include <gtest/gtest.h>
 #include <util.h>

@@ -29,6 +29,8 @@ void ClickWithMouse(HWND control)
     ClickAt(control, {5, 5});
 }
 
+constexpr DWORD kLongerThanAFocusRests = 300; // milliseconds
+
 void GoTo(HWND control)
 {
     PostMessage(GetParent(control), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
@@ -456,7 +458,6 @@ TEST_F(LeavingTheSideClearance, AsksOnceAButtonThatIsHeldDownIsLetGoBesideIt)
     TypeInto(Edit(sheet), L"abc");
     const HWND button = Button(sheet.window, IDOK);
     PostMessage(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-    constexpr DWORD kLongerThanAFocusRests = 300;
     Sleep(kLongerThanAFocusRests);
     EXPECT_TRUE(IsOpenAndSilent(sheet.window));
     EXPECT_EQ(button, ui::Focus(sheet.window));
@@ -670,6 +671,21 @@ TEST_F(LeavingTheSetupSheet, AsksAndTakesNothingOnTheWayOut)
             ui::UiThread::Get().Call([&] { frame.dialog.SetData(); });
             EXPECT_EQ(400.0, GetLastSSheetOptions()->RapidRate);
         }
+}
+
+TEST_F(LeavingTheSetupSheet, AsksNothingOnceItsOwnCancelHasComeWhereverTheFocusRests)
+{
+    CSetupFrame frame;
+    const OpenModal open(frame, L"Рамка");
+    TypeInto(Edit(frame), L"abc");
+    ui::UiThread::Get().Call([&] {
+        frame.SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Button(open.window, IDOK)), TRUE);
+        frame.dialog.SendMessage(WM_COMMAND, IDCANCEL);
+    });
+    Sleep(kLongerThanAFocusRests);
+    EXPECT_TRUE(IsOpenAndSilent(open.window));
+    EXPECT_EQ(Button(open.window, IDOK), ui::Focus(open.window));
+    EXPECT_FALSE(IsWindowVisible(frame.dialog.m_hWnd));
 }
 
 TEST_F(LeavingTheSetupSheet, AsksOnceOnOkHoweverItIsPressed)
