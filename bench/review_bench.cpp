@@ -69,7 +69,7 @@ void CompareReading(const std::string& file, const std::string& changed)
 void CompareApplying(const std::string& folder, const std::string& text)
 {
     const std::string standard = folder + "\\SHOP.INI";
-    WriteFile(standard, "[Options2x]\r\nUnits=0\r\nRapidPlane=2.000000\r\nSortType=2\r\n");
+    WriteWholeFile(standard, "[Options2x]\r\nUnits=0\r\nRapidPlane=2.000000\r\nSortType=2\r\n");
     std::vector<std::string> few = {"apply", standard};
     std::vector<std::string> many = few;
     for (int number = 0; number < 200; ++number) {
@@ -79,7 +79,7 @@ void CompareApplying(const std::string& folder, const std::string& text)
     }
     const auto prepare = [&] {
         for (auto file = many.begin() + 2; file != many.end(); ++file)
-            WriteFile(*file, text);
+            WriteWholeFile(*file, text);
     };
     const auto [all, some] = bench::BestTimesOnPrepared(
         5, 1, prepare, [&] { pelmar::tool::Run(many); }, [&] { pelmar::tool::Run(few); });
@@ -96,7 +96,7 @@ int main()
     for (std::size_t at = changed.find("=1\r"); at != std::string::npos; at = changed.find("=1\r", at + 1))
         changed[at + 1] = '0';
     const std::string other = host.folder + "\\OTHER.INI";
-    WriteFile(other, changed);
+    WriteWholeFile(other, changed);
     Silence();
     CompareReading(host.settings, other);
     CompareApplying(host.folder, text);

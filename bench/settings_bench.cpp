@@ -56,7 +56,7 @@ Entry WithAnotherValue(Entry entry)
 
 void WriteOldFile(const std::string& path, const std::string& text)
 {
-    WriteFile(path, text);
+    WriteWholeFile(path, text);
     const HANDLE file = CreateFileA(path.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     const FILETIME old{0, 30'000'000}; // in the year 2009
     SetFileTime(file, nullptr, nullptr, &old);

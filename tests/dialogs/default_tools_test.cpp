@@ -59,7 +59,8 @@ class DefaultTools : public testing::Test {
 protected:
     explicit DefaultTools(const char* library)
     {
-        WriteFile(host.folder + "\\TORVEXCore.ini", "[DefaultSystemFile]\r\nToolLib=" + std::string(library) + "\r\n");
+        WriteWholeFile(host.folder + "\\TORVEXCore.ini",
+                       "[DefaultSystemFile]\r\nToolLib=" + std::string(library) + "\r\n");
         ui::UiThread::Get().Call([] { FinalizePelmarDlgsDLL(); }); // lets go of the library of the host's first start
         started = host.Initialize();
         *GetLastDefsNCToolsInfo() = {};

@@ -28,7 +28,7 @@ protected:
         nc = host.folder + "\\NC";
         Write("DefaultPath", "NCDefaultPath", nc);
         for (const char* name : {"CURRENT.INI", "SHOP.INI", "Mill5.ini", "notes.txt"})
-            WriteFile(nc + "\\" + name, "[Settings]\r\n");
+            WriteWholeFile(nc + "\\" + name, "[Settings]\r\n");
         hostDefaults = ProgramFolder() + "Def\\TORVEX.INI";
         fs::create_directories(ProgramFolder() + "Def");
     }
@@ -133,7 +133,7 @@ TEST_F(DefaultsFile, AChosenFileIsStoredUnderItsKey)
     EXPECT_EQ("[DefaultPath]\r\nNCDefaultPath=" + nc +
                   "\r\n[NCDefaultFile]\r\nNCCurrentFileName=CURRENT.INI\r\nShop=SHOP.INI\r\n"
                   "[DefaultNCParameter]\r\nNCDefaultStartup=Shop\r\n",
-              ReadFile(host.hostSettings));
+              ReadWholeFile(host.hostSettings));
 }
 
 TEST_F(DefaultsFile, AFileThatNoLineNamesGetsAKeyFromItsName)
@@ -156,8 +156,8 @@ TEST_F(DefaultsFile, TheNameMustBeWrittenAsTheLineHasIt)
 
 TEST_F(DefaultsFile, AKeyEndsAtTheNamesFirstDot)
 {
-    WriteFile(nc + "\\a.b.ini", "");
-    WriteFile(nc + "\\.ini", "");
+    WriteWholeFile(nc + "\\a.b.ini", "");
+    WriteWholeFile(nc + "\\.ini", "");
     Show();
     ChooseFile(L"a.b.ini");
     Accept(IDYES);
@@ -171,8 +171,8 @@ TEST_F(DefaultsFile, AKeyEndsAtTheNamesFirstDot)
 TEST_F(DefaultsFile, OfSeveralKeysTheLastInByteOrderIsStored)
 {
     // Neither the last line nor the last name of a dictionary: small letters come after capitals.
-    WriteFile(host.hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + nc +
-                                     "\r\n[NCDefaultFile]\r\nZz=SHOP.INI\r\naa=SHOP.INI\r\nMm=SHOP.INI\r\n");
+    WriteWholeFile(host.hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + nc +
+                                          "\r\n[NCDefaultFile]\r\nZz=SHOP.INI\r\naa=SHOP.INI\r\nMm=SHOP.INI\r\n");
     Show();
     ChooseFile(L"SHOP.INI");
     Accept(IDYES);
@@ -182,8 +182,8 @@ TEST_F(DefaultsFile, OfSeveralKeysTheLastInByteOrderIsStored)
 TEST_F(DefaultsFile, NoRestoresWhatWasShownAtOpeningAndStoresNothing)
 {
     fs::create_directories(host.folder + "\\Other");
-    WriteFile(host.folder + "\\Other\\ELSE.INI", "");
-    const std::string before = ReadFile(host.hostSettings);
+    WriteWholeFile(host.folder + "\\Other\\ELSE.INI", "");
+    const std::string before = ReadWholeFile(host.hostSettings);
     Show();
     ChooseFile(L"SHOP.INI");
     ui::Click(Window(), kBrowse);
@@ -193,7 +193,7 @@ TEST_F(DefaultsFile, NoRestoresWhatWasShownAtOpeningAndStoresNothing)
     Accept(IDNO);
     EXPECT_EQ(Wide(nc), ShownFolder());
     EXPECT_EQ(L"CURRENT.INI", ShownFile());
-    EXPECT_EQ(before, ReadFile(host.hostSettings));
+    EXPECT_EQ(before, ReadWholeFile(host.hostSettings));
     // What restored the folder was no change of the user's.
     PostHostMessage(Window(), kCheckSaveDataMessage);
     EXPECT_FALSE(ui::IsBoxOpen());
@@ -210,7 +210,7 @@ TEST_F(DefaultsFile, OpeningCountsAsAChangeBecauseTheFolderIsPutIntoTheEdit)
 
 TEST_F(DefaultsFile, WithoutAFolderNothingIsAChangeAtOpening)
 {
-    WriteFile(host.hostSettings, "");
+    WriteWholeFile(host.hostSettings, "");
     Show();
     EXPECT_EQ(L"", ShownFolder());
     PostHostMessage(Window(), kCheckSaveDataMessage);
@@ -230,7 +230,7 @@ TEST_F(DefaultsFile, WhatIsTypedIsUndone)
 TEST_F(DefaultsFile, AnEmptyFactoryFolderAsksForOneAndBringsTheFirstOneBack)
 {
     Show();
-    WriteFile(hostDefaults, "[NCDefaultFile]\r\nNCCurrentFileName=FACTORY.INI\r\n");
+    WriteWholeFile(hostDefaults, "[NCDefaultFile]\r\nNCCurrentFileName=FACTORY.INI\r\n");
     // The factory settings name no folder: the edit is emptied, which asks at once.
     PostMessage(Window(), kSetDefaultsMessage, 0, 0);
     const ui::MessageBoxSeen box = ui::WaitForBox();
@@ -243,7 +243,7 @@ TEST_F(DefaultsFile, AnEmptyFactoryFolderAsksForOneAndBringsTheFirstOneBack)
 
 TEST_F(DefaultsFile, TypingWithoutAFolderAsksForOneAndIsUndone)
 {
-    WriteFile(host.hostSettings, "");
+    WriteWholeFile(host.hostSettings, "");
     Show();
     const HWND edit = ui::Control(Window(), kFolder);
     ui::FocusOn(Window(), kFolder);
@@ -262,12 +262,12 @@ TEST_F(DefaultsFile, TypingWithoutAFolderAsksForOneAndIsUndone)
 TEST_F(DefaultsFile, DefaultsAndYesStoreTheFactoryFolderAndFile)
 {
     fs::create_directories(host.folder + "\\Factory");
-    WriteFile(host.folder + "\\Factory\\FACTORY.INI", "");
+    WriteWholeFile(host.folder + "\\Factory\\FACTORY.INI", "");
     Write("NCDefaultFile", "Shop", "SHOP.INI");
     Show();
-    WriteFile(hostDefaults, "[DefaultPath]\r\nNCDefaultPath=" + host.folder +
-                                "\\Factory\r\n[DefaultNCParameter]\r\nNCDefaultStartup=Own\r\n"
-                                "[NCDefaultFile]\r\nOwn=FACTORY.INI\r\n");
+    WriteWholeFile(hostDefaults, "[DefaultPath]\r\nNCDefaultPath=" + host.folder +
+                                     "\\Factory\r\n[DefaultNCParameter]\r\nNCDefaultStartup=Own\r\n"
+                                     "[NCDefaultFile]\r\nOwn=FACTORY.INI\r\n");
     PostHostMessage(Window(), kSetDefaultsMessage);
     EXPECT_EQ(Wide(host.folder + "\\Factory"), ShownFolder());
     EXPECT_EQ(L"FACTORY.INI", ShownFile());
@@ -282,7 +282,7 @@ TEST_F(DefaultsFile, TheLinesOfTheFirstFileStayKnownAfterDefaults)
 {
     Write("NCDefaultFile", "Shop", "SHOP.INI");
     Show();
-    WriteFile(hostDefaults, "[DefaultPath]\r\nNCDefaultPath=" + nc + "\r\n");
+    WriteWholeFile(hostDefaults, "[DefaultPath]\r\nNCDefaultPath=" + nc + "\r\n");
     PostHostMessage(Window(), kSetDefaultsMessage);
     ChooseFile(L"SHOP.INI");
     Accept(IDYES);
@@ -291,7 +291,7 @@ TEST_F(DefaultsFile, TheLinesOfTheFirstFileStayKnownAfterDefaults)
 
 TEST_F(DefaultsFile, TheFolderBrowserStartsAtTheFolderAndCancelChangesNothing)
 {
-    WriteFile(host.hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + nc + "\r\n");
+    WriteWholeFile(host.hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + nc + "\r\n");
     Show();
     const StartFolderWatch watch;
     ui::Click(Window(), kBrowse);
@@ -363,7 +363,7 @@ TEST_F(DefaultsFile, ASectionLargerThanItsBufferIsReadAsFarAsItFits)
     std::string text = "[DefaultPath]\r\nNCDefaultPath=" + nc + "\r\n[NCDefaultFile]\r\nFirst=SHOP.INI\r\n";
     for (int number = 0; text.size() < 60000; ++number)
         text += "Key" + std::to_string(number) + "=File" + std::to_string(number) + ".INI\r\n";
-    WriteFile(host.hostSettings, text + "Zlast=Mill5.ini\r\n");
+    WriteWholeFile(host.hostSettings, text + "Zlast=Mill5.ini\r\n");
     Show();
     ChooseFile(L"SHOP.INI");
     Accept(IDYES);
@@ -376,10 +376,10 @@ TEST_F(DefaultsFile, ASectionLargerThanItsBufferIsReadAsFarAsItFits)
 TEST_F(DefaultsFile, LinesThatAreNoEntriesAreIgnored)
 {
     const std::string longest(511, 'k');
-    WriteFile(host.hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + nc +
-                                     "\r\n[NCDefaultFile]\r\nSHOP.INI\r\n=SHOP.INI\r\nzempty=\r\n" + longest +
-                                     "=SHOP.INI\r\n" + std::string(512, 'z') + "=SHOP.INI\r\n" +
-                                     "zvalue=" + std::string(600, 'v') + "\r\n" + std::string(10000, 'y') + "\r\n");
+    WriteWholeFile(host.hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + nc +
+                                          "\r\n[NCDefaultFile]\r\nSHOP.INI\r\n=SHOP.INI\r\nzempty=\r\n" + longest +
+                                          "=SHOP.INI\r\n" + std::string(512, 'z') + "=SHOP.INI\r\n" + "zvalue=" +
+                                          std::string(600, 'v') + "\r\n" + std::string(10000, 'y') + "\r\n");
     Show();
     ChooseFile(L"SHOP.INI");
     Accept(IDYES);
@@ -390,8 +390,9 @@ TEST_F(DefaultsFile, ALongNameCountsUpToItsFirst511Characters)
 {
     // The start-up file is cut off likewise, so that the last of the keys that name it is found.
     const std::string name(511, 'n');
-    WriteFile(host.hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + nc + "\r\n[NCDefaultFile]\r\nNCCurrentFileName=" +
-                                     name + "\r\nlonger=" + name + "mm\r\nmore=" + std::string(510, 'n') + "\r\n");
+    WriteWholeFile(host.hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + nc +
+                                          "\r\n[NCDefaultFile]\r\nNCCurrentFileName=" + name + "\r\nlonger=" + name +
+                                          "mm\r\nmore=" + std::string(510, 'n') + "\r\n");
     Show();
     Accept(IDYES);
     EXPECT_EQ("longer", StoredKey());
@@ -399,8 +400,8 @@ TEST_F(DefaultsFile, ALongNameCountsUpToItsFirst511Characters)
 
 TEST_F(DefaultsFile, ANameEndsAtASecondEqualsSign)
 {
-    WriteFile(host.hostSettings,
-              "[DefaultPath]\r\nNCDefaultPath=" + nc + "\r\n[NCDefaultFile]\r\nTwice=SHOP.INI=x\r\n");
+    WriteWholeFile(host.hostSettings,
+                   "[DefaultPath]\r\nNCDefaultPath=" + nc + "\r\n[NCDefaultFile]\r\nTwice=SHOP.INI=x\r\n");
     Show();
     ChooseFile(L"SHOP.INI");
     Accept(IDYES);
@@ -409,7 +410,7 @@ TEST_F(DefaultsFile, ANameEndsAtASecondEqualsSign)
 
 TEST_F(DefaultsFile, ASettingsPathThatIsTooLongIsAFileThatIsMissing)
 {
-    WriteFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=" + std::string(400, 'x') + "\r\n");
+    WriteWholeFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=" + std::string(400, 'x') + "\r\n");
     host.Initialize();
     Show();
     EXPECT_EQ(L"", ShownFolder());

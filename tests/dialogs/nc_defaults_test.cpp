@@ -102,10 +102,11 @@ TEST(NcDefaultsRecord, HoldsItsFieldsWhereTheHostDoes)
 
 class NcDefaults : public testing::Test {
 protected:
-    NcDefaults() : hostDefaults(ProgramFolder() + "Def\\TORVEX.INI"), hostSettingsBefore(ReadFile(host.hostSettings))
+    NcDefaults()
+        : hostDefaults(ProgramFolder() + "Def\\TORVEX.INI"), hostSettingsBefore(ReadWholeFile(host.hostSettings))
     {
         std::filesystem::create_directories(ProgramFolder() + "Def");
-        WriteFile(hostDefaults, "");
+        WriteWholeFile(hostDefaults, "");
     }
     ~NcDefaults() override
     {
@@ -117,7 +118,7 @@ protected:
     /// The sections follow those that the file holds already.
     void WriteHostSettings(const std::string& sections) const
     {
-        WriteFile(host.hostSettings, hostSettingsBefore + sections);
+        WriteWholeFile(host.hostSettings, hostSettingsBefore + sections);
     }
     /// Hands the dialog a record as a host does.
     void Give(const OptNCDefData& data)
@@ -154,10 +155,10 @@ protected:
     }
     void ExpectNothingWritten() const
     {
-        EXPECT_EQ("", ReadFile(hostDefaults));
-        EXPECT_EQ(hostSettingsBefore, ReadFile(host.hostSettings));
+        EXPECT_EQ("", ReadWholeFile(hostDefaults));
+        EXPECT_EQ(hostSettingsBefore, ReadWholeFile(host.hostSettings));
         EXPECT_EQ("", host.ReadSettings());
-        EXPECT_EQ("", ReadFile(host.defaults));
+        EXPECT_EQ("", ReadWholeFile(host.defaults));
     }
 
     HostFolder host;
@@ -200,7 +201,7 @@ TEST_F(NcDefaults, ReadsEachValueAtOpeningFromItsOwnFile)
                       wrongReals);
     host.WriteDefaults(others + "FilterMaxSpan=0.25\r\nFilterLineTol=8\r\nFilterArcTol=0.5\r\n");
     host.WriteSettings(others + wrongReals);
-    WriteFile(hostDefaults, others + wrongReals);
+    WriteWholeFile(hostDefaults, others + wrongReals);
     OpenModal open(dialog, kTitle);
     EXPECT_TRUE(ui::IsChecked(open.window, kMenu));
     for (const int box : {kIcons, kClassic3Axis, kFilterSpans})
@@ -214,7 +215,7 @@ TEST_F(NcDefaults, ReadsEachValueAtOpeningFromItsOwnFile)
 TEST_F(NcDefaults, PathsThatAreTooLongAreFilesThatAreMissing)
 {
     const std::string endless(400, 'x');
-    WriteFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=" + endless + "\r\n");
+    WriteWholeFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=" + endless + "\r\n");
     host.Initialize();
     ASSERT_GT(GetSettingsLocations().hostSettingsFile.view().size(), size_t{MAX_PATH});
     OpenModal open(dialog, kTitle);
@@ -233,7 +234,7 @@ TEST_F(NcDefaults, ReadsNoStartUpFlagAtOpening)
     WriteHostSettings(flags);
     host.WriteDefaults(flags);
     host.WriteSettings(flags);
-    WriteFile(hostDefaults, flags);
+    WriteWholeFile(hostDefaults, flags);
     OpenModal open(dialog, kTitle);
     for (const int box : {kLastMaterial, kLastTool, kLastCutControl, kMinimumZ, kProgramName})
         EXPECT_FALSE(ui::IsChecked(open.window, box)) << box;
@@ -380,9 +381,9 @@ TEST_F(NcDefaults, StoresTheSpanFilterAndTheClassicModeWithTheRecord)
     Taken();
     EXPECT_EQ("[DefaultNCParameter]\r\nFilterSpans=1\r\nFilterMaxSpan=0.250000\r\nFilterArcTol=0.500000\r\n",
               host.ReadSettings());
-    EXPECT_EQ(hostSettingsBefore + "[DefaultNCParameter]\r\nClassic3Axis=1\r\n", ReadFile(host.hostSettings));
-    EXPECT_EQ("", ReadFile(host.defaults));
-    EXPECT_EQ("", ReadFile(hostDefaults));
+    EXPECT_EQ(hostSettingsBefore + "[DefaultNCParameter]\r\nClassic3Axis=1\r\n", ReadWholeFile(host.hostSettings));
+    EXPECT_EQ("", ReadWholeFile(host.defaults));
+    EXPECT_EQ("", ReadWholeFile(hostDefaults));
 }
 
 TEST_F(NcDefaults, TheRecordHoldsWhatTheControlsLastHandedOver)
@@ -539,7 +540,7 @@ TEST_F(NcDefaults, AsksWithYesAndNoWhetherToStoreUntilTheRestart)
 TEST_F(NcDefaults, YesStoresWhatNeedsARestartAndTheSpanFilterInTwoFiles)
 {
     host.WriteDefaults("[DefaultNCParameter]\r\nFilterMaxSpan=0.25\r\nFilterArcTol=0.5\r\n");
-    const std::string defaultsBefore = ReadFile(host.defaults);
+    const std::string defaultsBefore = ReadWholeFile(host.defaults);
     OpenModal open(dialog, kTitle);
     ui::Click(open.window, kMenu);
     for (const int box : {kIcons, kClassic3Axis, kLastMaterial, kLastTool, kLastCutControl, kMinimumZ, kProgramName})
@@ -548,11 +549,11 @@ TEST_F(NcDefaults, YesStoresWhatNeedsARestartAndTheSpanFilterInTwoFiles)
     CheckSave(open, IDYES);
     EXPECT_EQ(hostSettingsBefore + "[DefaultDisplayParameter]\r\nNcDisplayMode=1\r\nNcMenuIcons=1\r\n"
                                    "[DefaultNCParameter]\r\nClassic3Axis=1\r\n",
-              ReadFile(host.hostSettings));
+              ReadWholeFile(host.hostSettings));
     EXPECT_EQ("[DefaultNCParameter]\r\nFilterSpans=1\r\nFilterLineTol=0.250000\r\nFilterArcTol=0.500000\r\n",
               host.ReadSettings());
-    EXPECT_EQ(defaultsBefore, ReadFile(host.defaults));
-    EXPECT_EQ("", ReadFile(hostDefaults));
+    EXPECT_EQ(defaultsBefore, ReadWholeFile(host.defaults));
+    EXPECT_EQ("", ReadWholeFile(hostDefaults));
 }
 
 TEST_F(NcDefaults, AfterYesTheRecordAddsTheOtherNameOfTheLongestSpan)
@@ -589,7 +590,7 @@ TEST_F(NcDefaults, NoTakesBackToTheOpeningAndTheSpanFilterToItsBuiltInValues)
     WriteHostSettings("[DefaultDisplayParameter]\r\nNcDisplayMode=1\r\nNcMenuIcons=1\r\n"
                       "[DefaultNCParameter]\r\nClassic3Axis=1\r\nFilterSpans=1\r\n");
     host.WriteDefaults("[DefaultNCParameter]\r\nFilterMaxSpan=0.25\r\nFilterArcTol=0.5\r\n");
-    const std::string hostBefore = ReadFile(host.hostSettings);
+    const std::string hostBefore = ReadWholeFile(host.hostSettings);
     OpenModal open(dialog, kTitle);
     for (const int box : {kIcons, kClassic3Axis, kLastTool})
         ui::Click(open.window, box);
@@ -606,11 +607,11 @@ TEST_F(NcDefaults, NoTakesBackToTheOpeningAndTheSpanFilterToItsBuiltInValues)
         EXPECT_EQ(L"0.0010", ui::TextOf(open.window, edit));
         EXPECT_FALSE(ui::IsEnabled(open.window, edit));
     }
-    EXPECT_EQ(hostBefore, ReadFile(host.hostSettings));
+    EXPECT_EQ(hostBefore, ReadWholeFile(host.hostSettings));
     EXPECT_EQ("", host.ReadSettings());
-    EXPECT_EQ("", ReadFile(hostDefaults));
+    EXPECT_EQ("", ReadWholeFile(hostDefaults));
     Taken();
-    EXPECT_EQ(hostBefore, ReadFile(host.hostSettings)) << "the classic mode is as it was";
+    EXPECT_EQ(hostBefore, ReadWholeFile(host.hostSettings)) << "the classic mode is as it was";
     EXPECT_EQ("[DefaultNCParameter]\r\nFilterSpans=0\r\nFilterMaxSpan=0.001000\r\nFilterArcTol=0.001000\r\n",
               host.ReadSettings());
 }
@@ -628,8 +629,8 @@ TEST_F(NcDefaults, TheDefaultsComeEachFromItsOwnFile)
     ui::Click(open.window, kMenu);
 
     // Everything is where it belongs, or set wrong everywhere else.
-    WriteFile(hostDefaults,
-              "[DefaultDisplayParameter]\r\nNcDisplayMode=0\r\nNcMenuIcons=1\r\n" + wrongFilter + "Classic3Axis=0\r\n");
+    WriteWholeFile(hostDefaults, "[DefaultDisplayParameter]\r\nNcDisplayMode=0\r\nNcMenuIcons=1\r\n" + wrongFilter +
+                                     "Classic3Axis=0\r\n");
     WriteHostSettings("[DefaultDisplayParameter]\r\nNcDisplayMode=1\r\nNcMenuIcons=0\r\n" + wrongFilter +
                       "Classic3Axis=1\r\n");
     host.WriteDefaults(display + flags +
@@ -647,7 +648,7 @@ TEST_F(NcDefaults, TheDefaultsComeEachFromItsOwnFile)
 
     // No flag comes from any other file.
     const std::string setElsewhere = flags + "[DefaultNCParameter]\r\nClassic3Axis=1\r\n";
-    WriteFile(hostDefaults, setElsewhere);
+    WriteWholeFile(hostDefaults, setElsewhere);
     WriteHostSettings(flags);
     host.WriteSettings(setElsewhere);
     host.WriteDefaults("[DefaultNCParameter]\r\nClassic3Axis=1\r\n");
@@ -689,7 +690,7 @@ TEST_F(NcDefaults, DefaultsOfTheSpanFilterFallBackToWhatTheControlsLastHandedOve
 
 TEST_F(NcDefaults, DefaultsAskForTheRestartAlthoughNothingChanges)
 {
-    WriteFile(hostDefaults, "[DefaultDisplayParameter]\r\nNcDisplayMode=0\r\nNcMenuIcons=0\r\n");
+    WriteWholeFile(hostDefaults, "[DefaultDisplayParameter]\r\nNcDisplayMode=0\r\nNcMenuIcons=0\r\n");
     OpenModal open(dialog, kTitle);
     SendHostMessage(open.window, kSetDefaults);
     EXPECT_TRUE(Asks(open));
@@ -705,7 +706,7 @@ TEST_F(NcDefaults, TheIconsBoxIsEnabledWhereTheDefaultDisplayModeIsTheMenu)
     for (const char* const mode : {"0", "7"}) {
         ui::Click(open.window, kMenu);
         EXPECT_TRUE(ui::IsEnabled(open.window, kIcons)) << mode;
-        WriteFile(hostDefaults, std::string("[DefaultDisplayParameter]\r\nNcDisplayMode=") + mode + "\r\n");
+        WriteWholeFile(hostDefaults, std::string("[DefaultDisplayParameter]\r\nNcDisplayMode=") + mode + "\r\n");
         SendHostMessage(open.window, kSetDefaults);
         EXPECT_FALSE(ui::IsEnabled(open.window, kIcons)) << mode;
     }
@@ -713,7 +714,7 @@ TEST_F(NcDefaults, TheIconsBoxIsEnabledWhereTheDefaultDisplayModeIsTheMenu)
 
 TEST_F(NcDefaults, ADefaultDisplayModeThatIsNoneChoosesNothingAndIsStoredAsItIs)
 {
-    WriteFile(hostDefaults, "[DefaultDisplayParameter]\r\nNcDisplayMode=7\r\n");
+    WriteWholeFile(hostDefaults, "[DefaultDisplayParameter]\r\nNcDisplayMode=7\r\n");
     OpenModal open(dialog, kTitle);
     SendHostMessage(open.window, kSetDefaults);
     EXPECT_FALSE(ui::IsChecked(open.window, kToolbar));
@@ -730,7 +731,7 @@ TEST_F(NcDefaults, DefaultFlagsAreSetByOneAloneAndTheSpanFilterByWhateverIsNotZe
     for (const char* value : {"2", "-1", "10"}) {
         const std::string text = value;
         OpenModal open(dialog, kTitle);
-        WriteFile(hostDefaults, "[DefaultDisplayParameter]\r\nNcMenuIcons=" + text + "\r\n");
+        WriteWholeFile(hostDefaults, "[DefaultDisplayParameter]\r\nNcMenuIcons=" + text + "\r\n");
         WriteHostSettings("[DefaultNCParameter]\r\nClassic3Axis=" + text + "\r\n");
         host.WriteDefaults("[ALLTIPI]\r\nDefToLastMaterial;=" + text + "\r\nDefToLastTool=" + text +
                            "\r\nDefToLastCutCtrl=" + text + "\r\n[Settings]\r\nProgramName=" + text +
@@ -945,8 +946,8 @@ TEST_F(NcDefaults, TakesDefaultsFromWhateverTheFilesHold)
     OpenModal open(dialog, kTitle);
     for (const std::string& text : kHostileTexts) {
         Give(OptNCDefData());
-        WriteFile(hostDefaults,
-                  "[DefaultDisplayParameter]\r\nNcDisplayMode=" + text + "\r\nNcMenuIcons=" + text + "\r\n");
+        WriteWholeFile(hostDefaults,
+                       "[DefaultDisplayParameter]\r\nNcDisplayMode=" + text + "\r\nNcMenuIcons=" + text + "\r\n");
         WriteHostSettings("[DefaultNCParameter]\r\nClassic3Axis=" + text + "\r\n");
         host.WriteDefaults("[ALLTIPI]\r\nDefToLastMaterial;=" + text + "\r\nDefToLastTool=" + text +
                            "\r\nDefToLastCutCtrl=" + text + "\r\n[Settings]\r\nProgramName=" + text +

@@ -698,7 +698,7 @@ TEST_F(SettingsReview, TakingGivesTheSelectedRowsTheComparedValuesAndLengthsThei
 TEST_F(SettingsReview, ComparedValuesThatThePageWouldRefuseAreToldAndNotTaken)
 {
     const std::string other = host.folder + "\\OTHER.INI";
-    WriteFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=500\r\nRapidPlane=3\r\n");
+    WriteWholeFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=500\r\nRapidPlane=3\r\n");
     OpenReview review(dialog);
     review.PickFile(other);
     ASSERT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"500°"; }));
@@ -717,8 +717,8 @@ TEST_F(SettingsReview, ComparedValuesThatThePageWouldRefuseAreToldAndNotTaken)
 TEST_F(SettingsReview, OfManyRefusedValuesTheFirstFiveAreTold)
 {
     const std::string other = host.folder + "\\OTHER.INI";
-    WriteFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=500\r\nCornerAngleType=50\r\nSideRoughStepType=50\r\n"
-                     "DepthRoughStepType=50\r\nFinishCutOn=50\r\nGougeCheck=50\r\nSortType=50\r\n");
+    WriteWholeFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=500\r\nCornerAngleType=50\r\nSideRoughStepType=50\r\n"
+                          "DepthRoughStepType=50\r\nFinishCutOn=50\r\nGougeCheck=50\r\nSortType=50\r\n");
     OpenReview review(dialog);
     review.PickFile(other);
     ASSERT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"500°"; }));
@@ -773,7 +773,7 @@ TEST_F(SettingsReview, AClipboardThatAnotherProgramKeepsIsTold)
 TEST_F(SettingsReview, AnotherFileIsComparedInTheUnitsOfTheRecord)
 {
     const std::string other = host.folder + "\\OTHER.INI";
-    WriteFile(other, "[Options2x]\r\nUnits=1\r\nRapidPlane=100\r\nCornerAngle=75\r\n");
+    WriteWholeFile(other, "[Options2x]\r\nUnits=1\r\nRapidPlane=100\r\nCornerAngle=75\r\n");
     OpenReview review(dialog);
     review.PickFile(other);
     ASSERT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"75°"; }));
@@ -789,7 +789,7 @@ TEST_F(SettingsReview, AnotherFileIsComparedInTheUnitsOfTheRecord)
 TEST_F(SettingsReview, AFileToCompareWithIsLookedForBesideTheSettings)
 {
     const std::string folder = host.settings.substr(0, host.settings.rfind('\\') + 1);
-    WriteFile(folder + "BESIDE.INI", "[Options2x]\r\nUnits=0\r\nCornerAngle=75\r\n");
+    WriteWholeFile(folder + "BESIDE.INI", "[Options2x]\r\nUnits=0\r\nCornerAngle=75\r\n");
     OpenReview review(dialog);
     review.PickFile("BESIDE.INI");
     EXPECT_TRUE(ui::WaitUntil([&] { return review.Shown(k2Axis, kAngle, Compared) == L"75°"; }));
@@ -812,7 +812,7 @@ TEST_F(SettingsReview, AFileThatCannotBeComparedIsToldWithTheReason)
     const std::wstring before = review.Shown(k2Axis, kAngle, Compared);
     for (const auto& file : files) {
         const std::string path = host.folder + "\\" + file.name;
-        WriteFile(path, file.bytes);
+        WriteWholeFile(path, file.bytes);
         review.PickFile(path);
         const ui::MessageBoxSeen box = ui::WaitForBox();
         EXPECT_NE(std::wstring::npos, box.text.find(file.reason)) << file.name;
@@ -826,7 +826,7 @@ TEST_F(SettingsReview, AFileThatCannotBeComparedIsToldWithTheReason)
 TEST_F(SettingsReview, AComparedFileThatIsGoneGivesWayToTheFactoryValues)
 {
     const std::string other = host.folder + "\\OTHER.INI";
-    WriteFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=75\r\n");
+    WriteWholeFile(other, "[Options2x]\r\nUnits=0\r\nCornerAngle=75\r\n");
     OpenReview review(dialog);
     const std::wstring before = review.Shown(k2Axis, kAngle, Compared);
     review.PickFile(other);
@@ -1183,7 +1183,7 @@ TEST_F(SettingsReview, HostileSizesAreIgnoredOrKeptWithinTheScreen)
         {"Columns", ",,,,"},
     };
     for (const auto& [key, text] : hostile) {
-        WriteFile(host.hostSettings, "");
+        WriteWholeFile(host.hostSettings, "");
         Keep("Width", "800");
         Keep("Height", "600");
         Keep(key, text);

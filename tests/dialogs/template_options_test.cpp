@@ -284,7 +284,7 @@ TEST_F(Templates, DatabaseFolderIsThatOfTheSettingsThatTheApplicationNames)
     Open();
     EXPECT_EQ(L"C:\\TORVEX\\Template", Text(kDatabase));
     Close();
-    WriteFile(named, "[DefaultPath]\r\nToolpathTemplatesPath=D:\\Named\r\n");
+    WriteWholeFile(named, "[DefaultPath]\r\nToolpathTemplatesPath=D:\\Named\r\n");
     Open();
     EXPECT_EQ(L"D:\\Named", Text(kDatabase));
 }
@@ -302,7 +302,7 @@ TEST_F(Templates, DatabaseFolderIsTheUsualOneWhereTheApplicationNamesNoSettings)
 TEST_F(Templates, DatabaseFolderIsCutAtAThousandCharacters)
 {
     const std::string named = host.folder + "\\named.ini";
-    WriteFile(named, "[DefaultPath]\r\nToolpathTemplatesPath=" + std::string(1200, 'x') + "\r\n");
+    WriteWholeFile(named, "[DefaultPath]\r\nToolpathTemplatesPath=" + std::string(1200, 'x') + "\r\n");
     util::IAppUI::GetInstance()->SetSettingsPath(named.c_str());
     Open();
     EXPECT_EQ(std::wstring(1000, L'x'), Text(kDatabase));
@@ -806,33 +806,33 @@ TEST_F(Templates, NoKeepsWhatTheControlsShowAndStoresNothing)
 
 TEST_F(Templates, TheDatabaseFolderIsStoredInTheHostsSettings)
 {
-    WriteFile(host.hostSettings,
-              "[DefaultPath]\r\nNCDefaultPath=x\r\nToolpathTemplatesPath=C:\\Stored\r\n[Other]\r\nA=1\r\n");
+    WriteWholeFile(host.hostSettings,
+                   "[DefaultPath]\r\nNCDefaultPath=x\r\nToolpathTemplatesPath=C:\\Stored\r\n[Other]\r\nA=1\r\n");
     Open();
     ui::Type(window, kDatabase, L"D:\\Typed folder");
     Store();
     EXPECT_EQ("[DefaultPath]\r\nNCDefaultPath=x\r\nToolpathTemplatesPath=D:\\Typed folder\r\n[Other]\r\nA=1\r\n",
-              ReadFile(host.hostSettings));
+              ReadWholeFile(host.hostSettings));
 }
 
 TEST_F(Templates, AnUnchangedDatabaseFolderIsNotWritten)
 {
     const std::string before = "[DefaultPath]\r\ntoolpathtemplatespath = C:\\Stored\r\n";
-    WriteFile(host.hostSettings, before);
+    WriteWholeFile(host.hostSettings, before);
     util::IAppUI::GetInstance()->SetSettingsPath(host.hostSettings.c_str());
     Open();
     EXPECT_EQ(L"C:\\Stored", Text(kDatabase));
     Store();
-    EXPECT_EQ(before, ReadFile(host.hostSettings));
+    EXPECT_EQ(before, ReadWholeFile(host.hostSettings));
 }
 
 TEST_F(Templates, AnEmptyDatabaseFolderIsNotWrittenWhereNoneIsStored)
 {
-    const std::string before = ReadFile(host.hostSettings);
+    const std::string before = ReadWholeFile(host.hostSettings);
     Open();
     ui::Type(window, kDatabase, L"");
     Store();
-    EXPECT_EQ(before, ReadFile(host.hostSettings));
+    EXPECT_EQ(before, ReadWholeFile(host.hostSettings));
 }
 
 TEST_F(Templates, TheUsualDatabaseFolderIsStoredWhenItIsAccepted)
@@ -1194,7 +1194,7 @@ protected:
         fs::remove(file);
         templates = host.folder + "\\templates";
         fs::create_directories(templates);
-        WriteFile(templates + "\\pocket.tpt", "x");
+        WriteWholeFile(templates + "\\pocket.tpt", "x");
     }
     ~RealTemplates() override
     {

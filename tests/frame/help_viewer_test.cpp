@@ -119,7 +119,7 @@ public:
     HelpFile() : m_path(GetSettingsLocations().helpFile.c_str())
     {
         std::filesystem::create_directories(std::filesystem::path(m_path).parent_path());
-        WriteFile(m_path, "help");
+        WriteWholeFile(m_path, "help");
     }
     ~HelpFile() { std::filesystem::remove(m_path); }
     HelpFile(const HelpFile&) = delete;

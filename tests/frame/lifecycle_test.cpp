@@ -24,7 +24,7 @@ protected:
 
     int InitializeWith(const std::string& library)
     {
-        WriteFile(host.folder + "\\TORVEXCore.ini", "[DefaultSystemFile]\r\nToolLib=" + library + "\r\n");
+        WriteWholeFile(host.folder + "\\TORVEXCore.ini", "[DefaultSystemFile]\r\nToolLib=" + library + "\r\n");
         return host.Initialize();
     }
 

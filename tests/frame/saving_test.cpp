@@ -94,7 +94,7 @@ TEST_F(Saving, TellsWhereItKeptADamagedFile)
 {
     host.WriteSettings("[S]\r\nFirst=1\r\nSec");
     EXPECT_TRUE(pelmar::WriteWhole("S", "First", 10));
-    EXPECT_EQ("[S]\r\nFirst=1\r\nSec", ReadFile(pelmar::LastSave().keptAside));
+    EXPECT_EQ("[S]\r\nFirst=1\r\nSec", ReadWholeFile(pelmar::LastSave().keptAside));
     EXPECT_EQ("[S]\r\nFirst=10\r\nSec\r\n", host.ReadSettings());
 }
 
@@ -104,23 +104,23 @@ TEST_F(Saving, OfAHostsOwnValuesIsTheSame)
     pelmar::SaveStep step;
     EXPECT_TRUE(pelmar::SaveText(own.c_str(), "Window", "Left", "10"));
     pelmar::WriteWhole("S", "First", 1);
-    EXPECT_EQ("", ReadFile(own));
+    EXPECT_EQ("", ReadWholeFile(own));
     EXPECT_TRUE(step.Commit());
-    EXPECT_EQ("[Window]\r\nLeft=10\r\n", ReadFile(own));
+    EXPECT_EQ("[Window]\r\nLeft=10\r\n", ReadWholeFile(own));
     EXPECT_TRUE(pelmar::SaveText(own.c_str(), "Window", "Left", nullptr));
-    EXPECT_EQ("[Window]\r\n", ReadFile(own));
+    EXPECT_EQ("[Window]\r\n", ReadWholeFile(own));
     EXPECT_FALSE(pelmar::SaveText((host.folder + "\\Gone\\OWN.INI").c_str(), "Window", "Left", "10"));
     EXPECT_EQ(SaveFailure::FolderMissing, pelmar::LastSave().failure);
 }
 
 TEST_F(Saving, TheMachineSimulationsStartIsSavedInOneStepToo)
 {
-    const std::string core = ReadFile(host.coreFile);
+    const std::string core = ReadWholeFile(host.coreFile);
     SetFileAttributesA(host.coreFile.c_str(), FILE_ATTRIBUTE_READONLY);
     ui::UiThread::Get().Call([] { PelmarUI_SetMachineSimPath("E:\\MS"); });
     EXPECT_EQ(SaveFailure::ReadOnly, pelmar::LastSave().failure);
     EXPECT_EQ(host.coreFile, pelmar::LastSave().file);
-    EXPECT_EQ(core, ReadFile(host.coreFile));
+    EXPECT_EQ(core, ReadWholeFile(host.coreFile));
     SetFileAttributesA(host.coreFile.c_str(), FILE_ATTRIBUTE_NORMAL);
     ui::UiThread::Get().Call([] { PelmarUI_SetMachineSimPath("E:\\MS"); });
     EXPECT_EQ(SaveFailure::None, pelmar::LastSave().failure);
@@ -133,7 +133,7 @@ TEST_F(Saving, TheMachineSimulationsStartIsSavedInOneStepToo)
 bool MayBeReplaced(const HostFolder& host)
 {
     const std::string copy = host.folder + "\\copy";
-    WriteFile(copy, "[S]\r\nFirst=2\r\n");
+    WriteWholeFile(copy, "[S]\r\nFirst=2\r\n");
     return MoveFileExA(copy.c_str(), host.settings.c_str(), MOVEFILE_REPLACE_EXISTING);
 }
 

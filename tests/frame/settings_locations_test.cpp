@@ -23,13 +23,13 @@ class SettingsLocation : public testing::Test {
 protected:
     void HostSettings(const std::string& text)
     {
-        WriteFile(host.hostSettings, text);
+        WriteWholeFile(host.hostSettings, text);
         host.Initialize();
     }
 
     void Core(const std::string& text)
     {
-        WriteFile(host.coreFile, text);
+        WriteWholeFile(host.coreFile, text);
         host.Initialize();
     }
 
@@ -56,7 +56,7 @@ TEST_F(SettingsLocation, WithoutAPathInTheCoreFileTheCoreFileHoldsTheHostSetting
 
 TEST_F(SettingsLocation, APathInTheCoreFileNamesTheFolderOfTheHostSettings)
 {
-    WriteFile(host.folder + "\\TORVEXCore.ini", "[DefaultSystemFile]\r\nToolLib=ShopTools.dll\r\n");
+    WriteWholeFile(host.folder + "\\TORVEXCore.ini", "[DefaultSystemFile]\r\nToolLib=ShopTools.dll\r\n");
     Core("[DefaultPath]\r\nTorvexIniPath=" + host.folder + "\r\n[DefaultSystemFile]\r\nToolLib=Other.dll\r\n");
     EXPECT_EQ(host.folder + "\\TORVEX.ini", Locations().hostSettingsFile.view());
     EXPECT_EQ("ShopTools.dll", Locations().toolLibraryName.view());
@@ -122,7 +122,7 @@ TEST_F(SettingsLocation, NoValueHoweverLongLeavesItsBuffer)
     EXPECT_EQ(std::string(1283, 'L'), Locations().settingsFile.view());
     EXPECT_EQ(std::string(1283, 'L'), Locations().defaultsFile.view());
 
-    WriteFile(host.folder + "\\TORVEXCore.ini", "[DefaultSystemFile]\r\nToolLib=" + longText + "\r\n");
+    WriteWholeFile(host.folder + "\\TORVEXCore.ini", "[DefaultSystemFile]\r\nToolLib=" + longText + "\r\n");
     EXPECT_EQ(0, host.Initialize());
     EXPECT_EQ(std::string(1283, 'L'), Locations().toolLibraryName.view());
 
@@ -136,8 +136,8 @@ protected:
     /// What becomes of a start-up machine when the simulation moves to a folder.
     std::string Moved(const std::string& machine, const char* folder)
     {
-        WriteFile(host.coreFile,
-                  "[DefaultPath]\r\nTorvexIniPath=" + host.folder + "\r\n[startup]\r\nmdfilename=" + machine + "\r\n");
+        WriteWholeFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=" + host.folder +
+                                          "\r\n[startup]\r\nmdfilename=" + machine + "\r\n");
         ui::UiThread::Get().Call([&] { PelmarUI_SetMachineSimPath(folder); });
         return Value(host.coreFile, "startup", "mdfilename");
     }
@@ -179,8 +179,8 @@ TEST_F(MachineSimulation, AnOverlongMachineIsCutAtTheBuffer)
 TEST_F(MachineSimulation, TheStartupFileMayStandElsewhere)
 {
     const std::string file = host.folder + "\\sim.ini";
-    WriteFile(file, "[startup]\r\nmdfilename=C:\\m\\Mill.xml\r\n");
-    WriteFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=" + host.folder + "\r\n");
+    WriteWholeFile(file, "[startup]\r\nmdfilename=C:\\m\\Mill.xml\r\n");
+    WriteWholeFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=" + host.folder + "\r\n");
     HostSettings("[DefaultPath]\r\nMachSimIniPath=" + file + "\r\nMachSimPath=F:\\Sim\r\n");
     EXPECT_EQ("F:\\Sim\\\\Mill\\\\Mill.xml", Value(file, "startup", "mdfilename"));
     EXPECT_EQ("<absent>", Value(host.coreFile, "startup", "mdfilename"));

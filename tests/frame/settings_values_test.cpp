@@ -109,7 +109,7 @@ TEST_F(SettingsValue, TheDefaultsFileIsReadAndNeverWritten)
     EXPECT_EQ(0.5, ReadDefaultReal("S", "Real", 9.0));
     EXPECT_EQ(9, ReadWhole("S", "Whole", 9));
     WriteWhole("S", "Whole", 4);
-    EXPECT_EQ("[S]\r\nWhole=3\r\nReal=0.5\r\n", ReadFile(host.defaults));
+    EXPECT_EQ("[S]\r\nWhole=3\r\nReal=0.5\r\n", ReadWholeFile(host.defaults));
 }
 
 TEST_F(SettingsValue, AWriteThatCannotBeDoneIsReportedAndLeavesNothingBehind)

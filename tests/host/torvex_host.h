@@ -35,16 +35,16 @@ constexpr int kToolList = 101;
 constexpr int kOnlyBallTools = 102;
 
 /// A program that lets nobody else have a file, until it ends.
-class HeldFile {
+class OccupiedFile {
 public:
-    explicit HeldFile(const fs::path& file)
+    explicit OccupiedFile(const fs::path& file)
         : m_handle(CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr))
     {
         EXPECT_NE(INVALID_HANDLE_VALUE, m_handle);
     }
-    ~HeldFile() { CloseHandle(m_handle); }
-    HeldFile(const HeldFile&) = delete;
-    HeldFile& operator=(const HeldFile&) = delete;
+    ~OccupiedFile() { CloseHandle(m_handle); }
+    OccupiedFile(const OccupiedFile&) = delete;
+    OccupiedFile& operator=(const OccupiedFile&) = delete;
 
 private:
     HANDLE m_handle;

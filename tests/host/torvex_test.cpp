@@ -633,7 +633,7 @@ TEST_F(Torvex, ASheetThatCouldNotBeSavedTellsTheFileAndTheReasonAndStaysOpen)
     OpenOptions();
     Type(IDC_2X_SIDE_ROUGH_STEP, L"0.5");
     {
-        const HeldFile held(NcFile());
+        const OccupiedFile held(NcFile());
         ui::Click(m_sheet, IDOK);
         ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
         EXPECT_NE(std::wstring::npos, box.text.find(L"Не сохранено: Параметры ЧПУ.")) << "what";
@@ -770,7 +770,7 @@ TEST_F(Torvex, UnitsThatCouldNotBeSavedAreToldOfAndInUse)
     std::ofstream(m_folder / L"TORVEXCore.INI") << "[Settings]\r\nUnits=0\r\n";
     Start();
     {
-        const HeldFile held(m_folder / L"TORVEXCore.INI");
+        const OccupiedFile held(m_folder / L"TORVEXCore.INI");
         Command(ID_UNITS_MILLIMETRE);
         const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
         EXPECT_EQ(0u, box.text.find(L"Не сохранено: Единицы измерения.\n"));
@@ -926,7 +926,7 @@ TEST_F(TorvexReview, AReviewThatCouldNotBeSavedStaysOpenUntilItIs)
     Find(L"Options2x.RapidPlane");
     EditFound(L"3");
     {
-        const HeldFile held(NcFile());
+        const OccupiedFile held(NcFile());
         ui::Click(m_review, IDOK);
         const ui::MessageBoxSeen box = ui::WaitForBox(m_process.dwProcessId);
         ui::Answer(box, box.buttons.back());

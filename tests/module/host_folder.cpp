@@ -16,7 +16,7 @@ std::string ProgramFolder()
     return std::string(FolderOf(path));
 }
 
-std::string ReadFile(const std::string& path)
+std::string ReadWholeFile(const std::string& path)
 {
     std::ifstream file(path, std::ios::binary);
     std::ostringstream text;
@@ -24,7 +24,7 @@ std::string ReadFile(const std::string& path)
     return text.str();
 }
 
-void WriteFile(const std::string& path, const std::string& text)
+void WriteWholeFile(const std::string& path, const std::string& text)
 {
     std::ofstream(path, std::ios::binary) << text;
     // The profile functions keep the file that they read last; a write without a section lets go of it.
@@ -47,8 +47,8 @@ HostFolder::HostFolder()
     settings = folder + "\\NC\\CURRENT.INI";
     defaults = folder + "\\NC\\DEFAULT.INI";
     fs::create_directories(folder + "\\NC");
-    WriteFile(coreFile, "[DefaultPath]\r\nTorvexIniPath=" + folder + "\r\n");
-    WriteFile(hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + folder + "\\NC\r\n");
+    WriteWholeFile(coreFile, "[DefaultPath]\r\nTorvexIniPath=" + folder + "\r\n");
+    WriteWholeFile(hostSettings, "[DefaultPath]\r\nNCDefaultPath=" + folder + "\\NC\r\n");
     Initialize();
 }
 
@@ -67,15 +67,15 @@ int HostFolder::Initialize() const
 
 void HostFolder::WriteSettings(const std::string& text) const
 {
-    WriteFile(settings, text);
+    WriteWholeFile(settings, text);
 }
 
 void HostFolder::WriteDefaults(const std::string& text) const
 {
-    WriteFile(defaults, text);
+    WriteWholeFile(defaults, text);
 }
 
 std::string HostFolder::ReadSettings() const
 {
-    return ReadFile(settings);
+    return ReadWholeFile(settings);
 }

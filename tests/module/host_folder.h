@@ -31,7 +31,7 @@ public:
 
 /// The folder of the test program, ending in "\".
 std::string ProgramFolder();
-std::string ReadFile(const std::string& path);
-void WriteFile(const std::string& path, const std::string& text);
+std::string ReadWholeFile(const std::string& path);
+void WriteWholeFile(const std::string& path, const std::string& text);
 /// One value of a settings file; "<absent>" where there is none.
 std::string Value(const std::string& file, const char* section, const char* key);

@@ -250,11 +250,11 @@ template <class RecordClass, class PageClass, auto Depth, auto DepthType, auto G
     using R = RecordClass;
     static constexpr double R::*depth = Depth;
     static constexpr int R::*depthType = DepthType;
-    static inline const std::vector<Length<R>> lengths = {{Depth},
-                                                          {&R::RapidPlane},
-                                                          {&R::PlungeClear},
-                                                          {&R::DefLeaveStockZ},
-                                                          {&R::DefMaxRoughDOC, &R::DefMaxRoughDOCType}};
+    static inline const std::vector<ScaledLength<R>> lengths = {{Depth},
+                                                                {&R::RapidPlane},
+                                                                {&R::PlungeClear},
+                                                                {&R::DefLeaveStockZ},
+                                                                {&R::DefMaxRoughDOC, &R::DefMaxRoughDOCType}};
     static inline const std::vector<double R::*> unscaled = {&R::DefRampAngle};
 
     static inline const std::vector<RealControl<R>> reals = {

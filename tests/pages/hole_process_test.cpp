@@ -793,9 +793,9 @@ protected:
         elsewhere = host.folder + "\\Elsewhere";
         for (const std::string& folder : {templates, elsewhere}) {
             fs::create_directories(folder);
-            WriteFile(folder + "\\one.tvhpt", "1");
-            WriteFile(folder + "\\two.tvhpt", "2");
-            WriteFile(folder + "\\notes.txt", "3");
+            WriteWholeFile(folder + "\\one.tvhpt", "1");
+            WriteWholeFile(folder + "\\two.tvhpt", "2");
+            WriteWholeFile(folder + "\\notes.txt", "3");
         }
         WritePrivateProfileStringA("DefaultPath", "HoleProcessTemplates", templates.c_str(), host.hostSettings.c_str());
     }

@@ -689,7 +689,7 @@ TEST_F(LatheAxes, TheHostsMessageWritesTheFourLinesInOrderAndIsAnsweredWithZero)
     modes.directions[kDiameterInput][0][1] = -0.25; // X of the second axis
     modes.directions[kDiameterDisplay][2][0] = 1e7; // Z of the first axis
     Give(modes);
-    const std::string before = ReadFile(host.hostSettings);
+    const std::string before = ReadWholeFile(host.hostSettings);
     OpenSheet sheet({axesPage.get()});
     EXPECT_EQ(0, SendMessage(sheet.Page(), 3073, 5, 6));
     const std::string lines =
@@ -699,7 +699,7 @@ TEST_F(LatheAxes, TheHostsMessageWritesTheFourLinesInOrderAndIsAnsweredWithZero)
         "LatheInputDia=1 2 3 0 1.000000 0.000000 0.000000 -0.250000 1.000000 0.000000 0.000000 0.000000 1.000000\r\n"
         "LatheViewDia=1 2 3 0 1.000000 0.000000 10000000.000000 0.000000 1.000000 0.000000 0.000000 0.000000 "
         "1.000000\r\n";
-    const std::string after = ReadFile(host.hostSettings);
+    const std::string after = ReadWholeFile(host.hostSettings);
     EXPECT_EQ(before, after.substr(0, before.size()));
     EXPECT_EQ(lines, after.substr(after.find("[DefaultNCParameter]")));
     EXPECT_EQ("", host.ReadSettings());
@@ -747,7 +747,7 @@ TEST_F(LatheAxes, TheLinesAreTheSameWhereTheDecimalSignIsAComma)
 
 TEST_F(LatheAxes, ASettingsPathThatCannotExistTakesNoLines)
 {
-    WriteFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=C:\\" + std::string(1000, 'p') + "\r\n");
+    WriteWholeFile(host.coreFile, "[DefaultPath]\r\nTorvexIniPath=C:\\" + std::string(1000, 'p') + "\r\n");
     host.Initialize();
     ASSERT_LT(size_t{MAX_PATH}, GetSettingsLocations().hostSettingsFile.view().size());
     OpenSheet sheet({axesPage.get()});

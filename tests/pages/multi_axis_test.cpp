@@ -21,7 +21,7 @@ constexpr int kDefaultsButton = 4456;
 /// What the two share: all but the list at the top.
 template <class RecordClass, class PageClass> struct MultiAxisOf : OperationOf<RecordClass, PageClass> {
     using R = RecordClass;
-    static inline const std::vector<Length<R>> lengths = {
+    static inline const std::vector<ScaledLength<R>> lengths = {
         {&R::FeedBetweenClearance}, {&R::RapidPlane}, {&R::RapidPlunge}, {&R::MaxFeedBetween, &R::FeedBetweenType}};
 
     static constexpr int other = kSortType;

@@ -61,7 +61,7 @@ template <class RecordClass, class PageClass> struct OperationOf {
     using Page = PageClass;
     using Operations = RecordOperations<Record>;
     using Fields = std::vector<KeptField<Record>>;
-    using Lengths = std::vector<Length<Record>>;
+    using Lengths = std::vector<ScaledLength<Record>>;
     using Unscaled = std::vector<double Record::*>;
     using Reals = std::vector<RealControl<Record>>;
     using Wholes = std::vector<WholeControl<Record>>;

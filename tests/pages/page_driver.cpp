@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include <windowsx.h>
-
 #include "pages/dialogs.h"
 
 // ---- sheets ----
@@ -229,8 +227,7 @@ std::string TopicShownFor(HWND page, int control)
             GetWindowRect(ui::Control(page, control), &target);
         }
         return ui::On([&] {
-            const DWORD place = GetMessagePos();
-            if (control && !PtInRect(&target, {GET_X_LPARAM(place), GET_Y_LPARAM(place)}))
+            if (control && !ui::IsIn(target, GetMessagePos()))
                 return false;
             AfxGetApp()->m_bHelpMode = control != 0;
             SendMessage(page, WM_COMMAND, ID_HELP, 0);

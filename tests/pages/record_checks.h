@@ -20,7 +20,7 @@ template <class Record> struct RecordOperations {
 };
 
 /// A length and the type that has to be 0 for it to be scaled; always scaled without one.
-template <class Record> struct Length {
+template <class Record> struct ScaledLength {
     double Record::*field;
     int Record::*type = nullptr;
 };
@@ -142,21 +142,21 @@ template <class Record> void CheckDefaults(const HostFolder& host, const RecordO
 
 /// Scaled there and back exactly: each length while its own type is 0. `untouched` never is.
 template <class Record>
-void CheckConversion(const RecordOperations<Record>& operations, const std::vector<Length<Record>>& lengths,
+void CheckConversion(const RecordOperations<Record>& operations, const std::vector<ScaledLength<Record>>& lengths,
                      const std::vector<double Record::*>& untouched, const std::vector<int Record::*>& otherTypes = {})
 {
-    for (const Length<Record>& scaled : lengths) {
+    for (const ScaledLength<Record>& scaled : lengths) {
         Record record;
         for (const auto type : otherTypes)
             record.*type = 1;
-        for (const Length<Record>& length : lengths) {
+        for (const ScaledLength<Record>& length : lengths) {
             record.*length.field = 0.8;
             if (length.type)
                 record.*length.type = length.type == scaled.type ? 0 : 1;
         }
         (record.*operations.convert)(1);
         EXPECT_EQ(1, record.Units);
-        for (const Length<Record>& length : lengths)
+        for (const ScaledLength<Record>& length : lengths)
             EXPECT_EQ(!length.type || length.type == scaled.type ? 20.0 : 0.8, record.*length.field);
         for (const auto field : untouched)
             EXPECT_EQ(Record().*field, record.*field);
@@ -164,7 +164,7 @@ void CheckConversion(const RecordOperations<Record>& operations, const std::vect
         EXPECT_EQ(20.0, record.*scaled.field) << "converting to its own units changes nothing";
         (record.*operations.convert)(0);
         EXPECT_EQ(0, record.Units);
-        for (const Length<Record>& length : lengths)
+        for (const ScaledLength<Record>& length : lengths)
             EXPECT_EQ(0.8, record.*length.field);
         record.Units = 7;
         (record.*operations.convert)(1);

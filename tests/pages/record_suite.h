@@ -37,10 +37,10 @@ protected:
 
     static const std::string& Fresh() { return Operation::operations.fresh; }
     static std::string Section() { return Fresh().substr(1, Fresh().find(']') - 1); }
-    static std::vector<Length<Record>> LengthsOf(double Record::*field)
+    static std::vector<ScaledLength<Record>> LengthsOf(double Record::*field)
     {
-        std::vector<Length<Record>> found;
-        for (const Length<Record>& length : Operation::lengths)
+        std::vector<ScaledLength<Record>> found;
+        for (const ScaledLength<Record>& length : Operation::lengths)
             if (length.field == field)
                 found.push_back(length);
         return found;
@@ -48,12 +48,12 @@ protected:
     /// Whether units change the real, its type being this one where it has one.
     static bool IsScaled(double Record::*field, int type)
     {
-        const std::vector<Length<Record>> lengths = LengthsOf(field);
+        const std::vector<ScaledLength<Record>> lengths = LengthsOf(field);
         return !lengths.empty() && (!lengths.front().type || type == 0);
     }
     static bool IsTypeOfALength(int Record::*field)
     {
-        for (const Length<Record>& length : Operation::lengths)
+        for (const ScaledLength<Record>& length : Operation::lengths)
             if (length.type == field)
                 return true;
         return false;

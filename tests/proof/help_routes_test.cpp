@@ -5,7 +5,6 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <windowsx.h>
 
 #include "description/description.h"
 #include "dialogs/dialog_driver.h"
@@ -50,18 +49,13 @@ std::string TopicOf(HWND window, int id, const std::function<bool(const RECT& ar
     return topic;
 }
 
-bool IsIn(const RECT& area, DWORD place)
-{
-    return PtInRect(&area, {GET_X_LPARAM(place), GET_Y_LPARAM(place)}) != FALSE;
-}
-
 /// A question that is asked within one message, which bears its place.
 std::function<bool(const RECT& area)> AtOnce(const std::function<void()>& ask)
 {
     return [ask](const RECT& area) {
         return ui::On([&] {
             ask();
-            return IsIn(area, GetMessagePos());
+            return ui::IsIn(area, GetMessagePos());
         });
     };
 }

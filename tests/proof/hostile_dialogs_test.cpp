@@ -158,7 +158,7 @@ protected:
     template <class Act> void Show(const std::vector<Entry>& entries, bool defaults, Act act)
     {
         for (const std::string& file : Files())
-            WriteFile(file, FileOf(entries));
+            WriteWholeFile(file, FileOf(entries));
         GetLastDefsNCToolsInfo()->Restore();
         vSSheetOptions_Restore();
         Dialog dialog;
@@ -201,7 +201,7 @@ TYPED_TEST(HostileDialog, WritesNothingThatTheUserDidNotAccept)
         ui::Settle(dialog.m_hWnd);
         ui::DismissBoxes(); // No
         for (const std::string& file : this->Files())
-            EXPECT_EQ(FileOf(entries), ReadFile(file)) << file;
+            EXPECT_EQ(FileOf(entries), ReadWholeFile(file)) << file;
     });
 }
 
@@ -210,7 +210,7 @@ TYPED_TEST(HostileDialog, ChangesItsOwnKeysOnly)
     this->ShowEach([this](TypeParam& dialog, const std::vector<Entry>& entries) {
         Accept(dialog);
         for (const std::string& file : this->Files())
-            EXPECT_EQ(OthersOf<TypeParam>(entries), OthersOf<TypeParam>(EntriesOf(ReadFile(file)))) << file;
+            EXPECT_EQ(OthersOf<TypeParam>(entries), OthersOf<TypeParam>(EntriesOf(ReadWholeFile(file)))) << file;
     });
 }
 

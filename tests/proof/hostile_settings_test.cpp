@@ -157,7 +157,7 @@ TEST_P(HostileSettings, EachDefaultYieldsItsFallbackAndTouchesNoOther)
                 if (const Option* const option = OptionOf(entries[place]); !option || option->inDefaults)
                     expected[place].text = Expected(entries[place], hostile, host.defaults);
             EXPECT_EQ(FileOf(expected), FileOf(Saved())) << entries[places.front()].key << "=" << hostile.substr(0, 20);
-            EXPECT_EQ(FileWith(places, hostile), ReadFile(host.defaults));
+            EXPECT_EQ(FileWith(places, hostile), ReadWholeFile(host.defaults));
         }
     }
 }

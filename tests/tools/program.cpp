@@ -106,12 +106,12 @@ Folder::~Folder()
 
 void Folder::Write(std::string_view name, std::string_view bytes) const
 {
-    WriteFile(Path(name), std::string(bytes));
+    WriteWholeFile(Path(name), std::string(bytes));
 }
 
 std::string Folder::Read(std::string_view name) const
 {
-    return ReadFile(Path(name));
+    return ReadWholeFile(Path(name));
 }
 
 std::size_t Folder::Count() const
@@ -144,7 +144,7 @@ Answer Folder::Run(const std::vector<std::string>& words) const
     answer.out = WithLineFeeds(ReadToEnd(ours.Get()));
     WaitForSingleObject(process.hProcess, INFINITE);
     GetExitCodeProcess(process.hProcess, &answer.status);
-    answer.error = WithLineFeeds(ReadFile(errorFile));
+    answer.error = WithLineFeeds(ReadWholeFile(errorFile));
     fs::remove(errorFile);
     return answer;
 }
@@ -203,7 +203,7 @@ std::string RestoredAndSaved(const std::string& bytes)
 
 std::string SourceFile(std::string_view name)
 {
-    const std::string text = ReadFile(PELMAR_SOURCES "/" + std::string(name));
+    const std::string text = ReadWholeFile(PELMAR_SOURCES "/" + std::string(name));
     EXPECT_FALSE(text.empty()) << name;
     return text;
 }

@@ -123,6 +123,12 @@ std::vector<std::wstring> Items(HWND dialog, int id)
     return items;
 }
 
+bool IsIn(const RECT& area, DWORD place)
+{
+    const POINTS point = MAKEPOINTS(place);
+    return PtInRect(&area, {point.x, point.y}) != FALSE;
+}
+
 HWND Focus(HWND window)
 {
     GUITHREADINFO info{};

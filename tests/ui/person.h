@@ -21,6 +21,8 @@ bool IsShown(HWND dialog, int id); ///< by its own style, whatever its parents d
 bool IsChecked(HWND dialog, int id);
 int Selection(HWND dialog, int id); ///< -1 when nothing is selected
 std::vector<std::wstring> Items(HWND dialog, int id);
+/// Whether a place of the screen, as messages bear it, is in the area.
+bool IsIn(const RECT& area, DWORD place);
 /// The control that has the focus on the thread of `window`.
 HWND Focus(HWND window);
 std::vector<HWND> Children(HWND window);
