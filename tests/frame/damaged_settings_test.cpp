@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace pelmar {
+using namespace pelmar;
+
 namespace {
 
 using namespace std::string_literals;
@@ -65,4 +66,3 @@ TEST(WideFile, MayEndInHalfACharacter)
 }
 
 } // namespace
-} // namespace pelmar

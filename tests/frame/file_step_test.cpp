@@ -12,7 +12,8 @@
 #include "frame/file_system.h"
 #include "settings_folder.h"
 
-namespace saving {
+using namespace saving;
+
 namespace {
 
 using namespace std::string_literals;
@@ -884,4 +885,3 @@ TEST(KilledSave, LeavesTheOldFileOrTheNewOneWhereverItIsKilled)
 }
 
 } // namespace
-} // namespace saving

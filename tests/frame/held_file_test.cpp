@@ -9,7 +9,8 @@
 #include "frame/settings_journal.h"
 #include "settings_folder.h"
 
-namespace saving {
+using namespace saving;
+
 namespace {
 
 using pelmar::HeldFile;
@@ -138,4 +139,3 @@ TEST_F(HeldFileTest, ThatIsNotThereIsNotWaitedFor)
 }
 
 } // namespace
-} // namespace saving

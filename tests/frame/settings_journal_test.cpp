@@ -8,7 +8,8 @@
 #include "frame/profile.h"
 #include "settings_folder.h"
 
-namespace saving {
+using namespace saving;
+
 namespace {
 
 using pelmar::SaveFailure;
@@ -356,4 +357,3 @@ TEST_F(JournalTest, ASectionOfAFileThatCannotBeIsEmpty)
 }
 
 } // namespace
-} // namespace saving
