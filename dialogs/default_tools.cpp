@@ -46,7 +46,6 @@ constexpr ToolKindRow kKinds[] = {
 static_assert(std::size(kKinds) == kToolKinds);
 
 using Settings = CDefsNCToolsInfo;
-constexpr const char* kSection = global_section::kSettings;
 struct SettingsRow {
     const char* key;
     int Settings::*value;
@@ -133,7 +132,7 @@ void CDefsNCToolsInfo::Save()
 {
     SaveStep step;
     for (const SettingsRow& row : kSettings)
-        WriteWhole(kSection, row.key, this->*row.value);
+        WriteWhole(global_section::kSettings, row.key, this->*row.value);
     step.Commit();
 }
 
@@ -141,7 +140,7 @@ void CDefsNCToolsInfo::Restore()
 {
     const SettingsReading oneVersion;
     for (const SettingsRow& row : kSettings)
-        this->*row.value = ReadWhole(kSection, row.key, this->*row.value);
+        this->*row.value = ReadWhole(global_section::kSettings, row.key, this->*row.value);
 }
 
 CDefsNCToolsInfo* GetLastDefsNCToolsInfo()
@@ -294,7 +293,7 @@ LRESULT CDefsNCToolsDlg::SetDefaults(WPARAM, LPARAM)
     for (size_t kind = 0; kind < std::size(kKinds); ++kind)
         ReadFactoryTools(kKinds[kind].kept, m_state->tools.toolIds[kind]);
     for (const SettingsRow& row : kSettings)
-        m_state->settings.*row.value = ReadDefaultWhole(kSection, row.key, 0);
+        m_state->settings.*row.value = ReadDefaultWhole(global_section::kSettings, row.key, 0);
     m_state->UpdateToolDesc();
     return 0;
 }

@@ -1,5 +1,6 @@
 #include "PelmarDlgs/dialogs/defaults_file_chooser.h"
 
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <string>
@@ -41,11 +42,12 @@ std::optional<std::pair<std::string, std::string>> Split(std::string_view line)
     const size_t equals = line.find('=');
     if (equals == std::string_view::npos || equals == 0 || equals > kLongestPart)
         return {};
-    const std::string_view rest = line.substr(equals + 1);
-    const std::string_view name = rest.substr(0, rest.find('=')).substr(0, kLongestPart);
+    const std::string key(line.substr(0, equals));
+    line.remove_prefix(equals + 1);
+    const std::string_view name = line.substr(0, std::min(line.find('='), kLongestPart));
     if (name.empty())
         return {};
-    return {{std::string(line.substr(0, equals)), std::string(name)}};
+    return {{key, std::string(name)}};
 }
 } // namespace
 

@@ -12,7 +12,7 @@
 namespace pelmar {
 namespace {
 
-constexpr char kSection[] = "SettingsReview";
+constexpr char kReviewSection[] = "SettingsReview";
 constexpr char kWidth[] = "Width";
 constexpr char kHeight[] = "Height";
 constexpr char kColumns[] = "Columns";
@@ -31,7 +31,7 @@ const char* HostFile()
 std::string Kept(const char* key)
 {
     char text[128];
-    profile::ReadText(kSection, key, "", text, HostFile());
+    profile::ReadText(kReviewSection, key, "", text, HostFile());
     return text;
 }
 
@@ -59,11 +59,13 @@ std::array<int, review::kColumns> ColumnsOf(std::string_view text)
     return columns;
 }
 
-std::string TextOf(const std::array<int, review::kColumns>& columns)
+std::string Joined(const std::array<int, review::kColumns>& columns)
 {
     std::string text;
-    for (const int width : columns)
-        text += (text.empty() ? "" : ",") + std::to_string(width);
+    for (const int width : columns) {
+        text += text.empty() ? "" : ",";
+        text += std::to_string(width);
+    }
     return text;
 }
 
@@ -83,7 +85,7 @@ review::Order OrderOf(int number)
 void Keep(const char* key, const std::string& text)
 {
     if (Kept(key) != text)
-        profile::WriteText(kSection, key, text.c_str(), HostFile());
+        profile::WriteText(kReviewSection, key, text.c_str(), HostFile());
 }
 
 } // namespace
@@ -102,7 +104,7 @@ void ReviewMemory::Save() const
     SaveStep step;
     Keep(kWidth, std::to_string(size.cx));
     Keep(kHeight, std::to_string(size.cy));
-    Keep(kColumns, TextOf(columns));
+    Keep(kColumns, Joined(columns));
     Keep(kOrder, std::to_string(NumberOf(order)));
     Keep(kShown, std::to_string(static_cast<int>(shown)));
     step.Commit();

@@ -442,13 +442,6 @@ public:
     bool isAccepted = false;
 
 private:
-    static CString TextOf(const CWnd& window)
-    {
-        CString text;
-        window.GetWindowText(text);
-        return text;
-    }
-
     static CString FolderOf(const CString& file)
     {
         const CString full = FullPath(file);

@@ -21,8 +21,8 @@
 using namespace pelmar;
 
 namespace {
-constexpr char kSection[] = "DefaultPath";
-constexpr char kFolderKey[] = "ToolpathTemplatesPath";
+constexpr char kTemplatesSection[] = "DefaultPath";
+constexpr char kTemplatesKey[] = "ToolpathTemplatesPath";
 constexpr char kUsualFolder[] = "C:\\TORVEX\\Template";
 constexpr size_t kUsualFolderCapacity = 1001;
 
@@ -135,15 +135,8 @@ public:
 
 FixedText<SettingsText::kCapacity> StoredDatabaseFolder()
 {
-    return FixedText<SettingsText::kCapacity>::FromProfile(kSection, kFolderKey, "",
+    return FixedText<SettingsText::kCapacity>::FromProfile(kTemplatesSection, kTemplatesKey, "",
                                                            GetSettingsLocations().hostSettingsFile.c_str());
-}
-
-CString TextOf(const CWnd& control)
-{
-    CString text;
-    control.GetWindowText(text);
-    return text;
 }
 } // namespace
 
@@ -309,7 +302,8 @@ public:
     {
         const CStringA folder(TextOf(databaseFolder));
         if (StoredDatabaseFolder().view() != folder.GetString())
-            profile::WriteText(kSection, kFolderKey, folder, GetSettingsLocations().hostSettingsFile.c_str());
+            profile::WriteText(kTemplatesSection, kTemplatesKey, folder,
+                               GetSettingsLocations().hostSettingsFile.c_str());
     }
 
     std::list<TemplateDefaults> records;
@@ -380,7 +374,7 @@ BOOL CTemplateOptions::OnInitDialog()
     UpdateSortingOptions(kSortsAtStart);
     if (m_state->defaultTemplate.GetWindowTextLength() == 0)
         m_state->defaultTemplate.SetWindowText(GetSortingString(0));
-    const auto folder = FixedText<kUsualFolderCapacity>::FromProfile(kSection, kFolderKey, kUsualFolder,
+    const auto folder = FixedText<kUsualFolderCapacity>::FromProfile(kTemplatesSection, kTemplatesKey, kUsualFolder,
                                                                      util::IAppUI::GetInstance()->GetSettingsPath());
     m_state->databaseFolder.SetWindowText(CString(folder.c_str()));
     return TRUE;

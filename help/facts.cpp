@@ -28,7 +28,7 @@ std::string TextOrNull(const char* text)
     return text ? Quoted(text) : "null";
 }
 
-std::string Number(double value)
+std::string NumberText(double value)
 {
     char text[64];
     std::snprintf(text, sizeof text, "%.10g", value);
@@ -38,7 +38,7 @@ std::string Number(double value)
 /// A side of a range; null where there is no bound.
 std::string Bound(double value)
 {
-    return std::abs(value) >= kUnbounded ? "null" : Number(value);
+    return std::abs(value) >= kUnbounded ? "null" : NumberText(value);
 }
 
 const char* NameOf(OptionKind kind)
@@ -96,8 +96,8 @@ std::string OptionText(const WindowDescription& window, const Option& option)
            NameOf(option.kind) + "\", \"whole\": " + (option.whole ? "true" : "false") + ", \"scaling\": \"" +
            NameOf(option.scaling) + "\", \"low\": " + Bound(option.range.low) +
            ", \"high\": " + Bound(option.range.high) + ", \"items\": " + Items(option.choices) +
-           ", \"first\": " + std::to_string(option.firstChoice) + ", \"inch\": " + Number(inch) +
-           ", \"millimetre\": " + Number(millimetre) +
+           ", \"first\": " + std::to_string(option.firstChoice) + ", \"inch\": " + NumberText(inch) +
+           ", \"millimetre\": " + NumberText(millimetre) +
            ", \"on\": " + (isSwitch && option.IsOn(static_cast<int>(inch)) ? "true" : "false") + "}";
 }
 
@@ -127,7 +127,7 @@ int main()
     std::string windows;
     for (const WindowDescription& window : DescribeWindows())
         windows += (windows.empty() ? "\n" : ",\n") + WindowText(window);
-    std::printf("{\"inch_to_millimetre\": %s, \"windows\": [%s\n]}\n", Number(kInchToMillimetre).c_str(),
+    std::printf("{\"inch_to_millimetre\": %s, \"windows\": [%s\n]}\n", NumberText(kInchToMillimetre).c_str(),
                 windows.c_str());
     return 0;
 }

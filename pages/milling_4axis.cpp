@@ -6,8 +6,6 @@
 using namespace pelmar;
 
 namespace {
-using Record = C4AxisOptionsInfo;
-
 /// Whether the points determine an axis.
 bool AreApart(const AxisPoints& axis)
 {
@@ -20,7 +18,7 @@ bool AreApart(const AxisPoints& axis)
 }
 
 /// The axis is part of the record.
-class Binding4x : public MultiAxisBinding<Record> {
+class Binding4x : public MultiAxisBinding<C4AxisOptionsInfo> {
 public:
     Binding4x() : MultiAxisBinding(kMilling4AxisPage) {}
 

@@ -56,9 +56,7 @@ bool IsWholeNumber(const wchar_t* text)
 void ExchangeWhole(CDataExchange* exchange, int& value, int id)
 {
     if (exchange->m_bSaveAndValidate && SilentRefusals::AreOn()) {
-        CString text;
-        exchange->m_pDlgWnd->GetDlgItem(id)->GetWindowText(text);
-        if (!IsWholeNumber(text))
+        if (!IsWholeNumber(TextOf(*exchange->m_pDlgWnd->GetDlgItem(id))))
             AfxThrowUserException();
     }
     const SilentRefusals meanwhile; // a prompt is one: what comes in below it asks nothing
@@ -96,6 +94,13 @@ void ExchangeControl(CDataExchange* exchange, void* record, const Control& contr
 CString TextOfChoice(const ChoiceText& text)
 {
     return text.literal ? CString(text.literal) : LoadText(text.id);
+}
+
+CString TextOf(const CWnd& control)
+{
+    CString text;
+    control.GetWindowText(text);
+    return text;
 }
 
 void EnableControl(const CWnd& page, int id, bool enable)

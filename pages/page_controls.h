@@ -21,6 +21,7 @@ inline HWND ControlOf(const CWnd& page, int id)
     return ::GetDlgItem(page.m_hWnd, id);
 }
 
+CString TextOf(const CWnd& control);
 void EnableControl(const CWnd& page, int id, bool enable);
 void HideControl(const CWnd& page, int id);
 CString TextOfChoice(const ChoiceText& text);

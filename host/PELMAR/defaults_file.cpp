@@ -34,7 +34,7 @@ constexpr NumberField kNumbers[] = {
 
 /// The settings file beside the library; no name where its path is longer than the platform's profile functions take:
 /// they copy it into a buffer of MAX_PATH characters.
-std::string File()
+std::string RecordFile()
 {
     char path[MAX_PATH] = {};
     if (GetModuleFileNameA(Module(), path, MAX_PATH) >= MAX_PATH)
@@ -74,7 +74,7 @@ std::int32_t ReadNumber(const std::string& section, const char* key, std::int32_
 
 void ReadDefaults(TemplateDefaults& record)
 {
-    const std::string file = File();
+    const std::string file = RecordFile();
     const std::string section = SectionOf(record);
     const TemplateDefaults fresh;
     for (const TextField& row : kTexts)
@@ -85,7 +85,7 @@ void ReadDefaults(TemplateDefaults& record)
 
 bool WriteDefaults(const TemplateDefaults& record)
 {
-    const std::string file = File();
+    const std::string file = RecordFile();
     if (file.empty())
         return false;
     const std::string section = SectionOf(record);

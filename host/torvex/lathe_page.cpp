@@ -54,7 +54,7 @@ AxisModes Load()
     return modes;
 }
 
-AxisModes& Kept()
+AxisModes& KeptModes()
 {
     static AxisModes modes = Load();
     return modes;
@@ -64,14 +64,14 @@ AxisModes& Kept()
 
 void CLathePage::GetData(int units)
 {
-    const AxisModes& modes = Kept();
+    const AxisModes& modes = KeptModes();
     CDefsLathePage::GetData(units, modes.labels, modes.active, modes.directions);
 }
 
 void CLathePage::OnOK()
 {
     CDefsLathePage::OnOK();
-    AxisModes& modes = Kept();
+    AxisModes& modes = KeptModes();
     SetData(modes.labels, modes.active, modes.directions);
     SendMessage(kWriteToIniMessage);
 }
