@@ -80,9 +80,9 @@ TEST(Leaks, NoneByModalDialogs)
     });
 }
 
-class CBriefSheet : public CPropertySheet {
+class CPassingSheet : public CPropertySheet {
 public:
-    CBriefSheet() : CPropertySheet(L"Лист") {}
+    CPassingSheet() : CPropertySheet(L"Лист") {}
     BOOL OnInitDialog() override
     {
         PostMessage(PSM_SETCURSEL, 1);
@@ -96,7 +96,7 @@ TEST(Leaks, NoneByPropertySheets)
     ExpectNothingLeft(60, [] {
         CPropertyPage first(IDD_PAGE);
         CPropertyPage second(IDD_PAGE_WITH_TITLE);
-        CBriefSheet sheet;
+        CPassingSheet sheet;
         sheet.AddPage(&first);
         sheet.AddPage(&second);
         ASSERT_LT(0, sheet.DoModal());
@@ -104,14 +104,14 @@ TEST(Leaks, NoneByPropertySheets)
 }
 
 /// Asks for the object of whatever window a message names.
-class CAskingWindow : public CWnd {
+class CQuestionedWindow : public CWnd {
 protected:
     LRESULT OnAsk(WPARAM window, LPARAM) { return FromHandle(reinterpret_cast<HWND>(window)) != nullptr; }
     DECLARE_MESSAGE_MAP()
 };
 
-BEGIN_MESSAGE_MAP(CAskingWindow, CWnd)
-    ON_MESSAGE(WM_APP, &CAskingWindow::OnAsk)
+BEGIN_MESSAGE_MAP(CQuestionedWindow, CWnd)
+    ON_MESSAGE(WM_APP, &CQuestionedWindow::OnAsk)
 END_MESSAGE_MAP()
 
 HWND MakeBareWindow()
@@ -121,7 +121,7 @@ HWND MakeBareWindow()
 
 TEST(Leaks, NoneByTemporaryObjectsOfMessages)
 {
-    CAskingWindow asking;
+    CQuestionedWindow asking;
     OnUi(
         [&] { ASSERT_TRUE(asking.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0)); });
     ExpectNothingLeft(150, [&] {
