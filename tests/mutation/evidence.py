@@ -86,7 +86,7 @@ OWN_TESTS = {
     "review": {"": Stage("review_tests", native=True)},
 }
 
-DIALOGS = Stage("dialog_tests", "-*TenThousandFiles*")
+DIALOGS = Stage("dialog_tests")
 MODULE = Stage("module_tests")
 HELP = Stage("proof_tests", "*HelpOf*")
 TIPS = Stage("proof_tests", "*Tips*")
