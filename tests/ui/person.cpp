@@ -22,6 +22,12 @@ BOOL CALLBACK CollectOfProcess(HWND window, LPARAM parameter)
     return TRUE;
 }
 
+BOOL CALLBACK CollectAll(HWND window, LPARAM parameter)
+{
+    reinterpret_cast<std::vector<HWND>*>(parameter)->push_back(window);
+    return TRUE;
+}
+
 /// A message box holds one text, buttons and perhaps an icon, and nothing else.
 bool LooksLikeBox(HWND window)
 {
@@ -140,8 +146,8 @@ HWND Focus(HWND window)
 std::vector<HWND> Children(HWND window)
 {
     std::vector<HWND> children;
-    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-        children.push_back(child);
+    EnumChildWindows(window, CollectAll, reinterpret_cast<LPARAM>(&children));
+    std::erase_if(children, [window](HWND child) { return GetAncestor(child, GA_PARENT) != window; });
     return children;
 }
 
