@@ -107,11 +107,11 @@ protected:
             changed[place].text = text;
         return FileOf(changed);
     }
-    /// Which entries get a hostile value at the same time: every third, so that each stands between sound ones, and the
+    /// Which entries get a hostile value at the same time: every other, so that each stands between sound ones, and the
     /// units, which all lengths depend on, alone.
     std::vector<std::vector<size_t>> PlacesOfHostileValues() const
     {
-        constexpr size_t kApart = 3;
+        constexpr size_t kApart = 2;
         std::vector<std::vector<size_t>> all(kApart);
         for (size_t place = 0; place < entries.size(); ++place) {
             if (entries[place].key == "Units")
